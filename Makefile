@@ -1,0 +1,47 @@
+# Entry points: `make run` builds and starts Larkspan, `make test` builds and runs every test,
+# `make bench` runs the benchmarks. Each installs missing Debian packages first.
+
+BUILD_DIR ?= build
+SANITIZE_DIR ?= build-sanitize
+BENCH_DIR ?= build-bench
+JOBS ?= $(shell nproc)
+CMAKE_FLAGS ?=
+
+.PHONY: all deps build run test test-sanitize bench tsan clean
+
+all: build
+
+deps:
+	@scripts/install-deps
+
+build: deps
+	cmake -S . -B $(BUILD_DIR) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
+	cmake --build $(BUILD_DIR) -j $(JOBS)
+
+run: build
+	@echo "Larkspan's core is built. The tray application arrives with a later change; nothing to start yet."
+
+# The core tests once more under AddressSanitizer and UndefinedBehaviorSanitizer.
+test-sanitize: deps
+	cmake -S . -B $(SANITIZE_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Debug -DLARKSPAN_CORE_ONLY=ON -DLARKSPAN_SANITIZE=ON
+	cmake --build $(SANITIZE_DIR) -j $(JOBS) --target larkspan_core_tests
+	ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
+		ctest --test-dir $(SANITIZE_DIR) --output-on-failure -j $(JOBS)
+
+# Core, UI and end-to-end tests; ends with CTest's summary line.
+test: test-sanitize build
+	ctest --test-dir $(BUILD_DIR) --output-on-failure -j $(JOBS)
+
+bench: deps
+	cmake -S . -B $(BENCH_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Release -DLARKSPAN_BENCH=ON $(CMAKE_FLAGS)
+	cmake --build $(BENCH_DIR) -j $(JOBS)
+	@set -e; for b in $(BENCH_DIR)/bench/bench_*; do echo "== $$(basename $$b)"; $$b $(BENCH_ARGS); done
+
+# The tracking road once more under ThreadSanitizer.
+tsan: deps
+	cmake -S . -B build-tsan -G Ninja -DCMAKE_BUILD_TYPE=Debug -DLARKSPAN_CORE_ONLY=ON -DLARKSPAN_TSAN=ON
+	cmake --build build-tsan -j $(JOBS) --target larkspan_core_tests
+	ctest --test-dir build-tsan --output-on-failure -j $(JOBS)
+
+clean:
+	rm -rf $(BUILD_DIR) $(SANITIZE_DIR) $(BENCH_DIR) build-tsan
