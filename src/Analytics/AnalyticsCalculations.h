@@ -1,0 +1,54 @@
+// The plain figures of the analytics screen: sums, local days, labels and the one duration text of
+// that screen. Everything here is a function of the records and the catalogue passed in; nothing is
+// stored and nothing reads a clock. Local days and hours follow the TZ variable. The chart series,
+// focus sessions, breakdowns and periods come with this header from their own files.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Analytics/AnalyticsBreakdowns.h"
+#include "Analytics/AnalyticsSeries.h"
+#include "Analytics/CategoryMap.h"
+#include "Analytics/FocusSessions.h"
+#include "Analytics/TimeRange.h"
+#include "Tracking/ActivityRecord.h"
+
+namespace larkspan::analytics {
+
+// Tracked and productive seconds of a period.
+struct PeriodTotals {
+    std::int64_t totalSeconds = 0;       // sum of every record's duration
+    std::int64_t productiveSeconds = 0;  // that part in a productive category
+    bool operator==(const PeriodTotals&) const = default;
+};
+
+PeriodTotals periodTotals(const std::vector<ActivityRecord>& records, const CategoryMap& catMap);
+
+// Productive ÷ total × 100, truncated toward zero; 0 when the total is 0 or less.
+std::int64_t productivityScore(const PeriodTotals& totals);
+
+// How many distinct local days the records' starts fall on. A record that runs past midnight
+// counts for the day on which it began.
+std::int64_t uniqueDays(const std::vector<ActivityRecord>& records);
+
+// Records grouped by the local day of their start, keyed "MM/dd" with no year, each group in the
+// order of `records`. The groups point into `records` and are valid as long as it is unchanged.
+using DayGroups = std::map<std::string, std::vector<const ActivityRecord*>>;
+DayGroups groupByDay(const std::vector<ActivityRecord>& records);
+
+// The part of a day key after its last "/", or the whole key without one: "03/07" gives "07".
+std::string dayLabel(std::string_view key);
+
+// Hour of the day as a short label: 0 gives "12a", 9 gives "9a", 12 gives "12p", 15 gives "3p".
+// Hours outside 0 to 23 are taken modulo 24.
+std::string hourLabel(int hour);
+
+// Seconds as "0m", "45s", "2m" or "1h 1m"; every division truncates. Negative input reads as
+// seconds ("-5s").
+std::string formatTime(std::int64_t seconds);
+
+}  // namespace larkspan::analytics

@@ -1,0 +1,30 @@
+// The category catalogue as a look-up by id, and the two rules every analytics figure shares: a
+// record without a category counts under "Other" (21), and a record is productive only when its
+// category is known and productive.
+#pragma once
+
+#include <cstdint>
+#include <unordered_map>
+#include <vector>
+
+#include "Classification/Category.h"
+#include "Tracking/ActivityRecord.h"
+
+namespace larkspan::analytics {
+
+using CategoryMap = std::unordered_map<std::int64_t, Category>;
+
+// The catalogue by id. Ids are unique in a stored catalogue; should one repeat, the first wins.
+CategoryMap makeCategoryMap(const std::vector<Category>& categories);
+
+inline std::int64_t effectiveCategoryID(const ActivityRecord& record) {
+    return record.categoryID.value_or(category_id::other);
+}
+
+// Whether the record's effective category is in `catMap` and productive. An unknown id never is.
+inline bool isProductive(const ActivityRecord& record, const CategoryMap& catMap) {
+    const auto found = catMap.find(effectiveCategoryID(record));
+    return found != catMap.end() && found->second.productivity == Productivity::productive;
+}
+
+}  // namespace larkspan::analytics
