@@ -22,14 +22,16 @@ TEST(CategoryFigures, EightLongestWithFractionsOfEveryCategory) {
     // Nine categories: 1 to 8 with 100 to 800 seconds, one with 50 that drops out of the list but
     // stays in the total of 3650. No category counts under 21; two ids tie at 300.
     std::vector<ActivityRecord> records;
-    for (std::int64_t id = 1; id <= 7; ++id) records.push_back(record("App", id * 100, id));
+    for (std::int64_t id = 1; id <= 7; ++id)
+        records.push_back(record("App", id * 100, id));
     records.push_back(record("App", 500, std::nullopt));
     records.push_back(record("App", 300, 21));
     records.push_back(record("App", 50, 99));
     const auto figures = categoryFigures(records, catMap);
     ASSERT_EQ(figures.size(), 8u);
     std::vector<std::pair<std::int64_t, std::int64_t>> rows;
-    for (const CategoryFigure& f : figures) rows.emplace_back(f.categoryID, f.seconds);
+    for (const CategoryFigure& f : figures)
+        rows.emplace_back(f.categoryID, f.seconds);
     EXPECT_EQ(rows, (std::vector<std::pair<std::int64_t, std::int64_t>>{
                         {21, 800}, {7, 700}, {6, 600}, {5, 500}, {4, 400}, {3, 300}, {2, 200}, {1, 100}}));
     EXPECT_DOUBLE_EQ(figures[0].fraction, 800.0 / 3650.0);
@@ -55,7 +57,8 @@ TEST(AppFigures, OneRowPerNameWithItsFirstIconScaledToTheLongest) {
     std::vector<ActivityRecord> records = {record("Browser", 100, 17), record("Browser", 500, 1),
                                            record("Away", 300, 15), record("Away", 100, 15),
                                            record("Mystery", 200, 99)};
-    for (int i = 0; i < 10; ++i) records.push_back(record("Tool " + std::to_string(i), 10, 1));
+    for (int i = 0; i < 10; ++i)
+        records.push_back(record("Tool " + std::to_string(i), 10, 1));
     const auto figures = appFigures(records, catMap);
     ASSERT_EQ(figures.size(), 10u);
     EXPECT_EQ(figures[0].app, "Browser");

@@ -15,7 +15,7 @@ namespace {
 using test::localInstant;
 using test::ScopedTimeZone;
 
-constexpr std::int64_t kCoding = 1;  // productive
+constexpr std::int64_t kCoding = 1;   // productive
 constexpr std::int64_t kGaming = 19;  // unproductive
 
 ActivityRecord record(Date start, std::int64_t seconds, std::optional<std::int64_t> category = kCoding) {
@@ -29,17 +29,19 @@ ActivityRecord record(Date start, std::int64_t seconds, std::optional<std::int64
 
 TEST(FormatTime, SecondsMinutesOrHoursAndMinutesTruncated) {
     const std::pair<std::int64_t, const char*> cases[] = {
-        {0, "0m"},       {45, "45s"},      {59, "59s"},         {60, "1m"},          {125, "2m"},
-        {3599, "59m"},   {3600, "1h 0m"},  {3660, "1h 1m"},     {7199, "1h 59m"},    {360000, "100h 0m"},
-        {-5, "-5s"},
+        {0, "0m"},       {45, "45s"},     {59, "59s"},      {60, "1m"},          {125, "2m"}, {3599, "59m"},
+        {3600, "1h 0m"}, {3660, "1h 1m"}, {7199, "1h 59m"}, {360000, "100h 0m"}, {-5, "-5s"},
     };
-    for (const auto& [seconds, text] : cases) EXPECT_EQ(formatTime(seconds), text) << seconds;
+    for (const auto& [seconds, text] : cases)
+        EXPECT_EQ(formatTime(seconds), text) << seconds;
 }
 
 TEST(Labels, HourAndDayLabels) {
-    const std::pair<int, const char*> hours[] = {{0, "12a"}, {1, "1a"}, {11, "11a"}, {12, "12p"},
-                                                 {13, "1p"}, {15, "3p"}, {23, "11p"}, {24, "12a"}, {-1, "11p"}};
-    for (const auto& [hour, text] : hours) EXPECT_EQ(hourLabel(hour), text) << hour;
+    const std::pair<int, const char*> hours[] = {{0, "12a"},  {1, "1a"},   {11, "11a"},
+                                                 {12, "12p"}, {13, "1p"},  {15, "3p"},
+                                                 {23, "11p"}, {24, "12a"}, {-1, "11p"}};
+    for (const auto& [hour, text] : hours)
+        EXPECT_EQ(hourLabel(hour), text) << hour;
 
     EXPECT_EQ(dayLabel("03/07"), "07");  // the leading zero stays
     EXPECT_EQ(dayLabel("a/b/c"), "c");
@@ -50,8 +52,8 @@ TEST(Labels, HourAndDayLabels) {
 TEST(PeriodTotals, ProductiveOnlyForKnownProductiveCategories) {
     const CategoryMap catMap = makeCategoryMap(Category::seeded());
     // No category reads as "Other" (neutral); id 99 is not in the catalogue and never productive.
-    const std::vector<ActivityRecord> records = {record(0, 2000), record(0, 500, std::nullopt), record(0, 700, 99),
-                                                 record(0, 800, kGaming)};
+    const std::vector<ActivityRecord> records = {record(0, 2000), record(0, 500, std::nullopt),
+                                                 record(0, 700, 99), record(0, 800, kGaming)};
     const PeriodTotals totals = periodTotals(records, catMap);
     EXPECT_EQ(totals, (PeriodTotals{4000, 2000}));
     EXPECT_EQ(productivityScore(totals), 50);
@@ -79,7 +81,8 @@ TEST(GroupByDay, KeysAreLocalMonthAndDayInRecordOrder) {
     const DayGroups groups = groupByDay(records);
     ASSERT_EQ(groups.size(), 2u);
     std::vector<std::int64_t> first;
-    for (const ActivityRecord* r : groups.at("05/01")) first.push_back(r->durationSeconds);
+    for (const ActivityRecord* r : groups.at("05/01"))
+        first.push_back(r->durationSeconds);
     EXPECT_EQ(first, (std::vector<std::int64_t>{1, 3}));
     // The key holds no year: the same date of another year joins the group.
     EXPECT_EQ(groups.at("05/02").size(), 2u);

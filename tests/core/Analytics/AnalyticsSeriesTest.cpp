@@ -48,7 +48,8 @@ TEST(HourlyProductiveMinutes, AveragesOverDaysWithAnyRecord) {
 
 TEST(HourlyProductiveMinutes, LongActivityCountsWhollyInItsFirstHour) {
     ScopedTimeZone zone{"Europe/Berlin"};
-    const auto minutes = hourlyProductiveMinutes({record(localInstant(2026, 6, 1, 8, 30), 5 * 3600)}, seeded());
+    const auto minutes =
+        hourlyProductiveMinutes({record(localInstant(2026, 6, 1, 8, 30), 5 * 3600)}, seeded());
     EXPECT_EQ(minutes, (HourlyMinutes{{8, 300.0}}));
 }
 
@@ -90,18 +91,22 @@ TEST(HourlyChart, ColumnsForSixToTwentyThreeScaledToTheLargest) {
 TEST(DailySeries, WeekOverNewYearRunsFromDecemberToJanuary) {
     ScopedTimeZone zone{"Pacific/Auckland"};
     std::vector<ActivityRecord> records;
-    for (int day = 28; day <= 34; ++day) records.push_back(record(localInstant(2026, 12, day, 10), 600 * (day - 27)));
+    for (int day = 28; day <= 34; ++day)
+        records.push_back(record(localInstant(2026, 12, day, 10), 600 * (day - 27)));
     std::string labels;
-    for (const DailyBar& bar : dailySeries(records, seeded(), 130)) labels += bar.label + " ";
+    for (const DailyBar& bar : dailySeries(records, seeded(), 130))
+        labels += bar.label + " ";
     EXPECT_EQ(labels, "28 29 30 31 01 02 03 ");
 }
 
 TEST(DailySeries, BarsScaleToTheLongestDayWithTheirProductivePart) {
     ScopedTimeZone zone{"Europe/Berlin"};
     const std::vector<ActivityRecord> records = {
-        record(localInstant(2026, 3, 7, 9), 3000),          record(localInstant(2026, 3, 7, 11), 1000, kMusic),
+        record(localInstant(2026, 3, 7, 9), 3000),
+        record(localInstant(2026, 3, 7, 11), 1000, kMusic),
         record(localInstant(2026, 3, 9, 23, 59), 2000, kMusic),  // runs past midnight, counts on the 9th
-        record(localInstant(2026, 3, 10, 12), 10),           record(localInstant(2026, 3, 11, 8), 0),
+        record(localInstant(2026, 3, 10, 12), 10),
+        record(localInstant(2026, 3, 11, 8), 0),
     };
     const auto bars = dailySeries(records, seeded(), 130);
     ASSERT_EQ(bars.size(), 4u);  // the 8th has no records and leaves no gap

@@ -18,7 +18,8 @@ TEST(LocalDayCache, AgreesWithTheZoneAcrossAYearOfClockChanges) {
     // New York changes at 02:00; Havana and Santiago skip midnight itself, and Santiago repeats the
     // hour before it; Lord Howe moves by half an hour. Walked forwards and backwards (entering each
     // day at its end), in steps that are no multiple of an hour.
-    for (const char* zoneName : {"America/New_York", "America/Havana", "America/Santiago", "Australia/Lord_Howe"}) {
+    for (const char* zoneName :
+         {"America/New_York", "America/Havana", "America/Santiago", "Australia/Lord_Howe"}) {
         SCOPED_TRACE(zoneName);
         ScopedTimeZone zone{zoneName};
         const Date first = localInstant(2026, 1, 1);
@@ -34,7 +35,8 @@ TEST(LocalDayCache, AgreesWithTheZoneAcrossAYearOfClockChanges) {
                    cache.hourOf(t) == parts.tm_hour;
         };
         for (Date t = first; t < last; t += 599) {
-            if (!agrees(forward, t) || !agrees(backward, last - (t - first))) ++mismatches;
+            if (!agrees(forward, t) || !agrees(backward, last - (t - first)))
+                ++mismatches;
         }
         EXPECT_EQ(mismatches, 0);
     }

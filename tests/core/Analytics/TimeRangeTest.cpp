@@ -14,11 +14,14 @@ namespace {
 using test::localInstant;
 using test::ScopedTimeZone;
 
-LocalDay dayOf(Date instant) { return LocalDayCache().dayOf(instant); }
+LocalDay dayOf(Date instant) {
+    return LocalDayCache().dayOf(instant);
+}
 
 TEST(TimeRange, RawValuesAreTheSelectorLabelsInOrder) {
     std::string labels;
-    for (TimeRange range : kTimeRanges) labels += std::string(rawValue(range)) + ";";
+    for (TimeRange range : kTimeRanges)
+        labels += std::string(rawValue(range)) + ";";
     EXPECT_EQ(labels, "Day;Today;Week;Month;3 Months;");
 }
 
@@ -38,7 +41,12 @@ TEST(TimeRange, PeriodsAndPomodoroDaysOfEveryRange) {
     const Case cases[] = {
         // Today's `day` ends now; a past `day` ends at its next midnight yet counts its own pomodoros only.
         {TimeRange::day, now, localInstant(2026, 11, 18), now, {2026, 11, 18}, {2026, 11, 18}},
-        {TimeRange::day, pastDay, localInstant(2026, 11, 10), localInstant(2026, 11, 11), {2026, 11, 10}, {2026, 11, 10}},
+        {TimeRange::day,
+         pastDay,
+         localInstant(2026, 11, 10),
+         localInstant(2026, 11, 11),
+         {2026, 11, 10},
+         {2026, 11, 10}},
         // `today` ignores the selected day.
         {TimeRange::today, pastDay, localInstant(2026, 11, 18), now, {2026, 11, 18}, {2026, 11, 18}},
         // Rolling windows reach back exact seconds (so the wall clock shows 16:00 across the change
