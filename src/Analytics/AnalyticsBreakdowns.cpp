@@ -77,4 +77,18 @@ std::vector<AppFigure> appFigures(const std::vector<ActivityRecord>& records, co
     return figures;
 }
 
+std::vector<WebsiteFigure> websiteFigures(const std::vector<DomainTotal>& topDomains) {
+    const std::int64_t maxDomain = topDomains.empty() ? 1 : topDomains.front().seconds;
+    std::vector<WebsiteFigure> figures;
+    for (const DomainTotal& total : topDomains) {
+        if (figures.size() == kWebsiteRows)
+            break;
+        WebsiteFigure& figure = figures.emplace_back();
+        figure.domain = total.domain;
+        figure.seconds = total.seconds;
+        figure.fraction = fractionOf(total.seconds, maxDomain);
+    }
+    return figures;
+}
+
 }  // namespace larkspan::analytics

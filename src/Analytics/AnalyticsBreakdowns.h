@@ -8,12 +8,14 @@
 
 #include "Analytics/CategoryMap.h"
 #include "Classification/Category.h"
+#include "Data/Database.h"
 #include "Tracking/ActivityRecord.h"
 
 namespace larkspan::analytics {
 
 inline constexpr std::size_t kCategoryRows = 8;
 inline constexpr std::size_t kApplicationRows = 10;
+inline constexpr std::size_t kWebsiteRows = 8;
 
 // One row of the category breakdown.
 struct CategoryFigure {
@@ -44,5 +46,16 @@ struct AppFigure {
 // Seconds per application name, longest first (equal seconds: by name), at most 10 rows. One name
 // under two bundle ids is one row, and all away spans are the one row "Away".
 std::vector<AppFigure> appFigures(const std::vector<ActivityRecord>& records, const CategoryMap& catMap);
+
+// One row of the top websites.
+struct WebsiteFigure {
+    std::string domain;
+    std::int64_t seconds = 0;
+    double fraction = 0;  // of the first website's seconds
+    bool operator==(const WebsiteFigure&) const = default;
+};
+
+// The first 8 of the loaded websites, in the store's order (longest first), each scaled to the first.
+std::vector<WebsiteFigure> websiteFigures(const std::vector<DomainTotal>& topDomains);
 
 }  // namespace larkspan::analytics

@@ -22,6 +22,7 @@ AnalyticsPage analyticsPage(const AnalyticsData& data, const std::vector<Categor
     page.hourlyColumns = hourlyChart(page.hourlyMinutes, kHourlyChartHeight);
     page.categories = categoryFigures(records, catMap);
     page.applications = appFigures(records, catMap);
+    page.websites = websiteFigures(data.topDomains);
     return page;
 }
 

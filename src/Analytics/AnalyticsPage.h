@@ -20,6 +20,7 @@ inline constexpr std::size_t kShownFocusSessions = 5;
 // What one load of a period brings from the store.
 struct AnalyticsData {
     std::vector<ActivityRecord> activities;  // records of the period longer than 5 seconds, oldest first
+    std::vector<DomainTotal> topDomains;     // the period's 10 longest websites, longest first
     std::int64_t totalPomos = 0;             // pomodoros of the period's local days
 };
 
@@ -43,6 +44,7 @@ struct AnalyticsPage {
     std::int64_t longestFocusSession = 0;     // seconds
     std::vector<CategoryFigure> categories;   // at most 8
     std::vector<AppFigure> applications;      // at most 10
+    std::vector<WebsiteFigure> websites;      // at most 8; empty: no websites card
 };
 
 AnalyticsPage analyticsPage(const AnalyticsData& data, const std::vector<Category>& categories);

@@ -75,5 +75,17 @@ TEST(AppFigures, OneRowPerNameWithItsFirstIconScaledToTheLongest) {
     EXPECT_EQ(appFigures({record("Idle", 0, 1)}, catMap)[0].fraction, 0.0);
 }
 
+TEST(WebsiteFigures, FirstEightInTheStoreOrderScaledToTheFirst) {
+    std::vector<DomainTotal> loaded;
+    for (int i = 0; i < 10; ++i)
+        loaded.push_back({"site" + std::to_string(i) + ".example", 400 - 20 * i});
+    const auto figures = websiteFigures(loaded);
+    ASSERT_EQ(figures.size(), 8u);
+    EXPECT_EQ(figures[0], (WebsiteFigure{"site0.example", 400, 1.0}));
+    EXPECT_EQ(figures[7], (WebsiteFigure{"site7.example", 260, 0.65}));
+    EXPECT_TRUE(websiteFigures({}).empty());
+    EXPECT_EQ(websiteFigures({{"blank.example", 0}})[0].fraction, 0.0);
+}
+
 }  // namespace
 }  // namespace larkspan::analytics
