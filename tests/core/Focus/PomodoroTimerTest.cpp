@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdlib>
 #include <ctime>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <string>
@@ -390,6 +392,28 @@ TEST_F(PomodoroTimerTest, StoredSettingsBelowOneOrNotIntegersKeepTheDefaults) {
     EXPECT_EQ(restarted->focusMinutes.get(), 50);
     EXPECT_EQ(restarted->longBreakMinutes.get(), 15);
     EXPECT_EQ(restarted->secondsLeft.get(), 3000);
+}
+
+TEST_F(PomodoroTimerTest, AbsurdSettingsAndClockJumpsStayDefined) {
+    constexpr std::int64_t huge = std::numeric_limits<std::int64_t>::max();
+    defaults.setInteger("pomo_focus", huge);
+    defaults.setText("pomo_date", PomodoroTimer::todayString(clock));
+    defaults.setInteger("pomo_count", huge);
+    auto timer = make();
+    EXPECT_EQ(timer->secondsLeft.get(), huge);  // minutes × 60 saturates
+    EXPECT_FALSE(timer->displayTime().empty());
+
+    timer->start();
+    clock.set(-1e300);  // far behind the start
+    hub.fireAll();
+    EXPECT_EQ(timer->secondsLeft.get(), huge);
+    clock.set(std::nan(""));
+    hub.fireAll();
+    EXPECT_EQ(timer->runState.get(), RunState::running);
+    clock.set(1e300);  // far beyond any end, and beyond any calendar
+    hub.fireAll();
+    EXPECT_EQ(timer->runState.get(), RunState::idle);
+    EXPECT_EQ(timer->todayCount.get(), huge);
 }
 
 TEST_F(PomodoroTimerTest, DisplayTimeAndProgressOfTheIdleClock) {
