@@ -23,10 +23,14 @@ double awayBarHeight(double naturalHeight) {
 }  // namespace
 
 std::optional<NaturalSpan> naturalSpan(const TimelineChapter& chapter, Date dayStart) {
-    const double startSec = std::max(0.0, chapter.startTime - dayStart);
-    const double endSec = std::min(canvas::dayLengthSeconds, chapter.endTime - dayStart);
-    if (!(startSec < endSec))
-        return std::nullopt;  // also refuses NaN
+    const double fromStart = chapter.startTime - dayStart;
+    const double toEnd = chapter.endTime - dayStart;
+    if (std::isnan(fromStart) || std::isnan(toEnd))
+        return std::nullopt;
+    const double startSec = std::max(0.0, fromStart);
+    const double endSec = std::min(canvas::dayLengthSeconds, toEnd);
+    if (startSec >= endSec)
+        return std::nullopt;
     return NaturalSpan{startSec / 3600 * canvas::hourHeight, (endSec - startSec) / 3600 * canvas::hourHeight};
 }
 
