@@ -206,12 +206,10 @@ std::vector<TimelineChapter> computeChapters(const std::vector<ActivityRecord>& 
 
     std::vector<TimelineChapter> chapters;
     std::vector<const ActivityRecord*> current;
-    std::optional<Date> lastEnd;
     const auto close = [&] {
         if (!current.empty())
             chapters.push_back(makeChapter(copies(current)));
         current.clear();
-        lastEnd.reset();
     };
 
     for (const ActivityRecord* a : filtered(activities, minDurationFilter)) {
@@ -223,10 +221,10 @@ std::vector<TimelineChapter> computeChapters(const std::vector<ActivityRecord>& 
             }
             continue;
         }
-        if (lastEnd && a->startTime - *lastEnd > chapterGap)
+        // The last end is that of the activity appended last; closing the list forgets it.
+        if (!current.empty() && a->startTime - effectiveEnd(*current.back()) > chapterGap)
             close();
         current.push_back(a);
-        lastEnd = effectiveEnd(*a);
     }
     close();
     return chapters;
