@@ -92,6 +92,8 @@ std::vector<double> chapterWidths(const std::vector<PrePlaced>& placed) {
     std::vector<double> widths;
     widths.reserve(placed.size());
     for (const PrePlaced& p : placed) {
+        // p overlaps itself, so its rows use two lanes exactly when a box of the other lane overlaps
+        // them. A plain pairwise scan: a few milliseconds at most for 2,000 boxes (bench/TimelineBench).
         bool shared = false;
         if (!p.isIdle) {
             for (const PrePlaced& q : placed) {
