@@ -49,16 +49,19 @@ std::filesystem::path userDataFolder() {
     return std::filesystem::path(home) / ".local" / "share";
 }
 
+// The program has no mode without a store: any failure to open, migrate or seed ends it here.
 Database* openSharedDatabase() {
+    std::string failure;
     try {
         const std::filesystem::path folder = userDataFolder() / "Larkspan";
         std::filesystem::create_directories(folder);
         return new Database(folder / "tracker.db");
     } catch (const std::exception& error) {
-        std::fprintf(stderr, "Database init failed: %s\n", error.what());
-        std::fflush(stderr);
-        std::exit(EXIT_FAILURE);
+        failure = error.what();
     }
+    std::fprintf(stderr, "Database init failed: %s\n", failure.c_str());
+    std::fflush(stderr);
+    std::exit(EXIT_FAILURE);
 }
 
 }  // namespace
