@@ -1,5 +1,5 @@
 // The statements on `activities`: the insert of a new session, its heartbeats and corrections, and
-// the reads by time range, by id and by pending state. One mapper reads every selected row, so all
+// the reads by time range, by id and by pending state. One reader maps every selected row, so all
 // reads agree on NULLs and booleans.
 #include <algorithm>
 #include <limits>
@@ -22,10 +22,10 @@ const char* const kInsertActivity =
     " needs_approval, is_approved, start_time, end_time, duration_seconds, is_manual, notes)\n"
     "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)";
 
-// Columns in the order of kActivityColumns. duration_seconds is read through the 32-bit column read,
-// as it is written.
-ActivityRecord activityFromStmt(sqlite3_stmt* stmt) {
-    ActivityRecord record;
+// Reads a row selected with kActivityColumns into `record`, in place: a range read fills tens of
+// thousands of rows, so no record is built twice. duration_seconds is read through the 32-bit
+// column read, as it is written.
+void readActivity(sqlite3_stmt* stmt, ActivityRecord& record) {
     record.id = sqlite3_column_int64(stmt, 0);
     record.appName = Database::string(stmt, 1).value_or("");
     record.bundleID = Database::string(stmt, 2);
@@ -41,7 +41,6 @@ ActivityRecord activityFromStmt(sqlite3_stmt* stmt) {
     record.durationSeconds = sqlite3_column_int(stmt, 12);
     record.isManual = columnBool(stmt, 13);
     record.notes = Database::string(stmt, 14);
-    return record;
 }
 
 int clampToInt32(std::int64_t value) {
@@ -113,14 +112,14 @@ std::vector<ActivityRecord> Database::fetchActivities(Date from, Date to) {
             sqlite3_bind_double(stmt, 1, from);
             sqlite3_bind_double(stmt, 2, to);
         },
-        [&](sqlite3_stmt* stmt) { activities.push_back(activityFromStmt(stmt)); });
+        [&](sqlite3_stmt* stmt) { readActivity(stmt, activities.emplace_back()); });
     return activities;
 }
 
 std::optional<ActivityRecord> Database::fetchActivity(std::int64_t id) {
     std::optional<ActivityRecord> activity;
     queryRows(kActivityColumns + " WHERE id=" + sqlNumber(id) + " LIMIT 1", nullptr,
-              [&](sqlite3_stmt* stmt) { activity = activityFromStmt(stmt); });
+              [&](sqlite3_stmt* stmt) { readActivity(stmt, activity.emplace()); });
     return activity;
 }
 
@@ -130,7 +129,7 @@ std::vector<ActivityRecord> Database::fetchPendingApprovals(int limit) {
                   "\nWHERE needs_approval=1 AND is_approved=0 AND duration_seconds >= 30\n"
                   "ORDER BY start_time DESC LIMIT " +
                   sqlNumber(limit),
-              nullptr, [&](sqlite3_stmt* stmt) { activities.push_back(activityFromStmt(stmt)); });
+              nullptr, [&](sqlite3_stmt* stmt) { readActivity(stmt, activities.emplace_back()); });
     return activities;
 }
 
