@@ -52,7 +52,7 @@ int clampToInt32(std::int64_t value) {
 
 std::int64_t Database::insertActivity(const ActivityRecord& record) {
     std::int64_t rowID = 0;
-    queue_.sync([&] {
+    runOnQueue([&] {
         Statement statement(db_.get(), kInsertActivity);
         if (!statement)
             throw DBError(DBError::Kind::prepareFailed, errMsg());

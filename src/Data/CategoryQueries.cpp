@@ -35,7 +35,7 @@ void Database::insertCategory(const Category& category) {
         escapeQuotes(category.name) + "', '" + escapeQuotes(category.colorHex) + "', '" +
         escapeQuotes(category.icon) + "', " + sqlNumber(rawValue(category.productivity)) + ",\n" + parent +
         ", 0, " + sqlNumber(category.sortOrder) + ")";
-    queue_.sync([&] { exec(sql); });
+    runOnQueue([&] { exec(sql); });
 }
 
 void Database::updateCategory(const Category& category) {
@@ -43,7 +43,7 @@ void Database::updateCategory(const Category& category) {
                             escapeQuotes(category.colorHex) + "', icon='" + escapeQuotes(category.icon) +
                             "',\nproductivity=" + sqlNumber(rawValue(category.productivity)) +
                             " WHERE id=" + sqlNumber(category.id);
-    queue_.sync([&] { exec(sql); });
+    runOnQueue([&] { exec(sql); });
 }
 
 // One transaction, so that a failure leaves rules, activities and the category as they were. The
@@ -52,7 +52,7 @@ void Database::deleteCategory(std::int64_t id) {
     if (id == category_id::other)
         return;
     const std::string target = sqlNumber(id);
-    queue_.sync([&] {
+    runOnQueue([&] {
         exec("BEGIN IMMEDIATE");
         try {
             exec("DELETE FROM learned_rules WHERE category_id=" + target);

@@ -203,6 +203,9 @@ private:
                             const std::string& definition);
     void seedCategories();
 
+    // Runs `work` on the queue and waits. A DBError it throws is thrown again on the caller's
+    // thread as a fresh copy, so no exception object is shared between the two threads.
+    void runOnQueue(const std::function<void()>& work);
     // On the queue: runs `sql` through exec and discards any error.
     void execDiscardingError(const std::string& sql);
     // SQLite's message for the connection's last failure; "unknown" without a connection.

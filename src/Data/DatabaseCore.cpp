@@ -119,6 +119,21 @@ void Database::queryRows(const std::string& sql, const Binder& bind, const RowRe
     });
 }
 
+void Database::runOnQueue(const std::function<void()>& work) {
+    std::optional<DBError::Kind> kind;
+    std::string message;
+    queue_.sync([&] {
+        try {
+            work();
+        } catch (const DBError& error) {
+            kind = error.kind();
+            message = error.what();
+        }
+    });
+    if (kind)
+        throw DBError(*kind, message);
+}
+
 void Database::execDiscardingError(const std::string& sql) {
     queue_.sync([&] {
         try {

@@ -29,7 +29,7 @@ std::vector<TodoItem> Database::fetchTodayTodos(Date now) {
 std::int64_t Database::insertTodo(const std::string& title, Date now) {
     const std::string today = todayDateString(now);
     std::int64_t rowID = 0;
-    queue_.sync([&] {
+    runOnQueue([&] {
         Statement statement(db_.get(), "INSERT INTO todo_items (title, created_date) VALUES (?, ?)");
         if (!statement)
             throw DBError(DBError::Kind::prepareFailed, errMsg());
