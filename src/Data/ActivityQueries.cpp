@@ -22,16 +22,21 @@ const char* const kInsertActivity =
     " needs_approval, is_approved, start_time, end_time, duration_seconds, is_manual, notes)\n"
     "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)";
 
-// Reads a row selected with kActivityColumns into `record`, in place: a range read fills tens of
-// thousands of rows, so no record is built twice. duration_seconds is read through the 32-bit
-// column read, as it is written.
+// Reads a row selected with kActivityColumns into `record`, fresh from its default constructor.
+// A range read fills tens of thousands of rows, so texts go straight into their fields with no
+// temporary. duration_seconds is read through the 32-bit column read, as it is written.
 void readActivity(sqlite3_stmt* stmt, ActivityRecord& record) {
+    const auto readText = [stmt](int column, std::optional<std::string>& field) {
+        if (const char* text = columnText(stmt, column))
+            field.emplace(text);
+    };
     record.id = sqlite3_column_int64(stmt, 0);
-    record.appName = Database::string(stmt, 1).value_or("");
-    record.bundleID = Database::string(stmt, 2);
-    record.windowTitle = Database::string(stmt, 3);
-    record.url = Database::string(stmt, 4);
-    record.urlDomain = Database::string(stmt, 5);
+    if (const char* name = columnText(stmt, 1))
+        record.appName = name;
+    readText(2, record.bundleID);
+    readText(3, record.windowTitle);
+    readText(4, record.url);
+    readText(5, record.urlDomain);
     record.categoryID = columnOptionalInt64(stmt, 6);
     record.confidence = sqlite3_column_double(stmt, 7);
     record.needsApproval = columnBool(stmt, 8);
@@ -40,7 +45,7 @@ void readActivity(sqlite3_stmt* stmt, ActivityRecord& record) {
     record.endTime = columnOptionalDouble(stmt, 11);
     record.durationSeconds = sqlite3_column_int(stmt, 12);
     record.isManual = columnBool(stmt, 13);
-    record.notes = Database::string(stmt, 14);
+    readText(14, record.notes);
 }
 
 int clampToInt32(std::int64_t value) {

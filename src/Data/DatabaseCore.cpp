@@ -145,10 +145,10 @@ void Database::execDiscardingError(const std::string& sql) {
 }
 
 std::optional<std::string> Database::string(sqlite3_stmt* stmt, int column) {
-    const unsigned char* text = sqlite3_column_text(stmt, column);
+    const char* text = columnText(stmt, column);
     if (text == nullptr)
         return std::nullopt;
-    return std::string(reinterpret_cast<const char*>(text));
+    return std::string(text);
 }
 
 std::string Database::errMsg() const {

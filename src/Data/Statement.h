@@ -63,6 +63,11 @@ inline void bindBool(sqlite3_stmt* stmt, int index, bool value) {
     sqlite3_bind_int(stmt, index, value ? 1 : 0);
 }
 
+// The column's UTF-8 text up to its first NUL, valid until the next step; null for NULL.
+inline const char* columnText(sqlite3_stmt* stmt, int column) {
+    return reinterpret_cast<const char*>(sqlite3_column_text(stmt, column));
+}
+
 // A stored boolean is true only when it is exactly 1; 2, -1, NULL or text read false.
 inline bool columnBool(sqlite3_stmt* stmt, int column) {
     return sqlite3_column_int64(stmt, column) == 1;
