@@ -6,8 +6,9 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <exception>
+#include <mutex>
+#include <stdexcept>
 #include <vector>
 
 #include "Data/Database.h"
@@ -19,12 +20,11 @@ namespace {
 // usually serialized already; sqlite3_config fails harmlessly when SQLite has been initialised by
 // someone else, and openDB checks the mode the connection actually got.
 void requestSerializedMode() {
-    static const bool requested = [] {
+    static std::once_flag once;
+    std::call_once(once, [] {
         if (sqlite3_threadsafe() != 0)
             sqlite3_config(SQLITE_CONFIG_SERIALIZED);
-        return true;
-    }();
-    (void)requested;
+    });
 }
 
 // $XDG_DATA_HOME when set to an absolute path (the XDG rule: relative values are ignored), else
