@@ -72,13 +72,20 @@ constexpr std::string_view kProfessionalNetwork[] = {"linkedin.com"};
 // Order matters: a domain that ends with patterns of two groups takes the earlier one (netflix.com
 // also ends with x.com; outlook.office.com also ends with office.com).
 constexpr DomainRuleGroup kGroups[] = {
-    {kCodeHosting, id::coding, 0.92},      {kDeveloperReference, id::coding, 0.88},
-    {kAiTools, id::aiTools, 0.88},         {kCourses, id::learning, 0.95},
-    {kReading, id::reading, 0.80},         {kMail, id::email, 0.95},
-    {kMessaging, id::communication, 0.92}, {kPlanning, id::planning, 0.90},
-    {kDocuments, id::writing, 0.85},       {kDesign, id::design, 0.90},
-    {kStreaming, id::entertainment, 0.97}, {kSocial, id::socialMedia, 0.88},
-    {kShopping, id::shopping, 0.88},       {kProfessionalNetwork, id::research, 0.72},
+    {kCodeHosting, id::coding, 0.92},            // 1
+    {kDeveloperReference, id::coding, 0.88},     // 2
+    {kAiTools, id::aiTools, 0.88},               // 3
+    {kCourses, id::learning, 0.95},              // 4
+    {kReading, id::reading, 0.80},               // 5
+    {kMail, id::email, 0.95},                    // 6
+    {kMessaging, id::communication, 0.92},       // 7
+    {kPlanning, id::planning, 0.90},             // 8
+    {kDocuments, id::writing, 0.85},             // 9
+    {kDesign, id::design, 0.90},                 // 10
+    {kStreaming, id::entertainment, 0.97},       // 11
+    {kSocial, id::socialMedia, 0.88},            // 12
+    {kShopping, id::shopping, 0.88},             // 13
+    {kProfessionalNetwork, id::research, 0.72},  // 14
 };
 
 constexpr std::string_view kEducationalKeywords[] = {
