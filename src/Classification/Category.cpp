@@ -40,16 +40,14 @@ constexpr std::array<std::string_view, 25> kBlanks = {
     "\u2009", "\u200A", "\u2028", "\u2029", "\u202F", "\u205F", "\u3000",
 };
 
-std::string_view trimmed(std::string_view text) {
+// `text` without the white space and line breaks it begins with. Trailing ones need no cut: the
+// hex scan stops at them anyway.
+std::string_view withoutLeadingBlanks(std::string_view text) {
     for (bool cut = true; cut;) {
         cut = false;
         for (std::string_view blank : kBlanks) {
             if (text.starts_with(blank)) {
                 text.remove_prefix(blank.size());
-                cut = true;
-            }
-            if (text.ends_with(blank)) {
-                text.remove_suffix(blank.size());
                 cut = true;
             }
         }
@@ -70,7 +68,7 @@ int hexDigit(char c) {
 }  // namespace
 
 Color Color::fromHex(std::string_view text) {
-    text = trimmed(text);
+    text = withoutLeadingBlanks(text);
     if (!text.empty() && text.front() == '#')
         text.remove_prefix(1);
 

@@ -183,6 +183,7 @@ TEST(CleanBrowserTitle, CutsOneKnownSuffixThenTrimsSpacesAndTabs) {
         // Only the suffix at the end goes, and only one.
         {"Plan - Notion - Google Chrome", "Plan - Notion"},
         {"Page - Arc - Arc", "Page - Arc"},
+        {"Page - Arc - YouTube", "Page - Arc"},
         {"Plan - Notion extra", "Plan - Notion extra"},
         // The dash, dot and case must be exact.
         {"Page - Firefox", "Page - Firefox"},
