@@ -1,3 +1,5 @@
+// The seeded catalogue and the lenient colour parse behind every category swatch. A colour text
+// may have been edited by hand, so the parse accepts any text and gives black for what it cannot read.
 #include "Classification/Category.h"
 
 #include <array>

@@ -9,6 +9,7 @@
 #include "Classification/Category.h"
 #include "Classification/DomainRules.h"
 #include "Platform/AsciiLower.h"
+#include "Platform/OptionalText.h"
 
 namespace larkspan {
 
@@ -21,10 +22,6 @@ constexpr std::array<std::string_view, 8> kMixedContentDomains = {
 
 constexpr double kLearnedConfidence = 0.99;
 constexpr ClassificationResult kFallback{category_id::other, 0.3};
-
-bool hasText(const std::optional<std::string>& text) {
-    return text && !text->empty();
-}
 
 bool isMixedContentDomain(std::string_view domain) {
     for (std::string_view mixed : kMixedContentDomains) {

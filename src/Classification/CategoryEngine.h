@@ -41,7 +41,8 @@ public:
     //   3. mixed: learned "url", then "title" rule                               -> (rule, 0.99);
     //   4. domain table; 5. bundle table; 6. application-name table; 7. window-title extensions;
     //   8. (Other, 0.3), which needs approval.
-    // Learned keys match exactly and case-sensitively; an empty optional skips its learned step.
+    // Learned keys match exactly and case-sensitively. An absent or empty domain, bundle id, address or
+    // title skips its learned step; the name has no such test.
     ClassificationResult classify(std::string_view appName, const std::optional<std::string>& bundleID,
                                   const std::optional<std::string>& windowTitle,
                                   const std::optional<std::string>& url,

@@ -1,7 +1,11 @@
+// Identity and display texts of activity records. The title-priority set and the browser suffixes
+// are a dozen entries each, scanned in order; display texts are built on demand, never cached.
 #include "Tracking/ActivityRecord.h"
 
 #include <algorithm>
 #include <array>
+
+#include "Platform/OptionalText.h"
 
 namespace larkspan {
 
@@ -21,10 +25,6 @@ constexpr std::array<std::string_view, 12> kBrowserTitleSuffixes = {
 
 std::string_view withoutWww(std::string_view domain) {
     return domain.starts_with("www.") ? domain.substr(4) : domain;
-}
-
-bool hasText(const std::optional<std::string>& text) {
-    return text && !text->empty();
 }
 
 }  // namespace
