@@ -98,6 +98,10 @@ TEST(CategoryEngine, MixedPagesUseOnlyUrlAndTitleRules) {
                               "youtube.com"),
               learned(12));
     EXPECT_EQ(engine.classify("Firefox", firefox, "Lo-fi beats \U0001F3B5", "", "youtube.com"), learned(12));
+    // With neither address nor title rule the page goes to the tables, never to the plain rules.
+    EXPECT_EQ(engine.classify("Firefox", firefox, nullopt, nullopt, "youtube.com"),
+              (ClassificationResult{16, 0.55}));
+    EXPECT_EQ(engine.classify("Firefox", firefox, "", "", "youtube.com"), (ClassificationResult{16, 0.55}));
     // The mixed test lower-cases the domain; learned keys still match exactly.
     EXPECT_EQ(engine.classify("Firefox", firefox, "Cats", "https://reddit.com/r/cpp", "Reddit.COM"),
               learned(11));
