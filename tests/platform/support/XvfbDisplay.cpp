@@ -123,7 +123,7 @@ XvfbDisplay::~XvfbDisplay() {
 }
 
 bool XvfbDisplay::startServer(int number) {
-    const auto display = ":" + std::to_string(number);
+    const auto display = std::string(":").append(std::to_string(number));
     std::vector<std::string> argv = {"Xvfb",     display,   "-nolisten", "tcp",
                                      "-noreset", "-screen", "0",         "1280x800x24"};
     if (!options_.screenSaverExtension) {
