@@ -6,6 +6,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <fstream>
 #include <thread>
 
@@ -60,6 +61,20 @@ protected:
         const auto windows = display->windowsOfClass(wmClass);
         EXPECT_EQ(windows.size(), 1u) << wmClass;
         return windows.size() == 1 ? windows[0] : std::string();
+    }
+
+    // Creates a test window and waits until it is shown.
+    std::string show(test::TestWindows& windows, const test::TestWindows::Spec& spec) {
+        const auto id = windows.create(spec);
+        const auto name = std::to_string(id);
+        for (int attempt = 0; attempt < 10; ++attempt) {
+            const auto shown = display->windowsOfClass(spec.wmClass, 500ms);
+            if (std::find(shown.begin(), shown.end(), name) != shown.end())
+                return name;
+            windows.map(id);
+        }
+        ADD_FAILURE() << spec.title << " was never shown";
+        return name;
     }
 
     // Activates the window until the workspace sees that application in front. A window manager
@@ -144,9 +159,8 @@ TEST_F(X11WorkspaceTest, ActivationFiresOncePerApplicationNotPerWindow) {
     // One process with two windows: one application.
     test::TestWindows windows(display->name());
     ASSERT_TRUE(windows.connected());
-    const auto first = std::to_string(windows.create({"same", "LarkspanSame", "Same one"}));
-    const auto second = std::to_string(windows.create({"same", "LarkspanSame", "Same two"}));
-    ASSERT_TRUE(test::waitUntil([&] { return display->windowsOfClass("LarkspanSame").size() == 2; }));
+    const auto first = show(windows, {"same", "LarkspanSame", "Same one"});
+    const auto second = show(windows, {"same", "LarkspanSame", "Same two"});
 
     auto workspace = makeWorkspace();
     int activations = 0;
@@ -183,18 +197,15 @@ TEST_F(X11WorkspaceTest, ActivationFiresOncePerApplicationNotPerWindow) {
 
 TEST_F(X11WorkspaceTest, ADialogBelongsToItsMainWindowsApplication) {
     test::TestWindows windows(display->name());
-    const auto main = windows.create({"beta", "LarkspanBeta", "Main"});
-    // A window manager takes over a dialog only once it manages the main window.
-    ASSERT_FALSE(windowOf("LarkspanBeta").empty());
-    const auto dialog = windows.create({"dialog", "LarkspanDialog", "Save changes?", "", main});
-    const auto gtk = windows.create({"whatever", "Whatever", "GTK window", "larkspan-beta"});
-    ASSERT_FALSE(windowOf("LarkspanDialog").empty());
-    ASSERT_FALSE(windowOf("Whatever").empty());
+    const auto main = show(windows, {"beta", "LarkspanBeta", "Main"});
+    const auto dialog = show(windows, {"dialog", "LarkspanDialog", "Save changes?", "",
+                                       static_cast<std::uint32_t>(std::stoul(main))});
+    const auto gtk = show(windows, {"whatever", "Whatever", "GTK window", "larkspan-beta"});
     auto workspace = makeWorkspace();
 
-    focus(*workspace, std::to_string(dialog), getpid(), "Save changes?");
+    focus(*workspace, dialog, getpid(), "Save changes?");
     EXPECT_EQ(frontmostID(*workspace), "larkspan-beta");
-    focus(*workspace, std::to_string(gtk), getpid(), "GTK window");
+    focus(*workspace, gtk, getpid(), "GTK window");
     EXPECT_EQ(frontmostID(*workspace), "larkspan-beta");
 }
 

@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <mutex>
 
 #include "Platform/Linux/TextEncoding.h"
 
@@ -57,7 +58,14 @@ std::unique_ptr<XcbConnection> XcbConnection::open(const std::string& display) {
     if (display.empty())
         return nullptr;
     int screenNumber = 0;
-    xcb_connection_t* c = xcb_connect(display.c_str(), &screenNumber);
+    xcb_connection_t* c = nullptr;
+    {
+        // xcb_connect reads the X authority file through libXau, whose file-name buffer is shared
+        // and unguarded; the watcher and a query thread may connect at the same moment.
+        static std::mutex connectMutex;
+        std::lock_guard lock(connectMutex);
+        c = xcb_connect(display.c_str(), &screenNumber);
+    }
     if (xcb_connection_has_error(c)) {
         xcb_disconnect(c);
         return nullptr;
@@ -138,6 +146,8 @@ std::vector<xcb_window_t> XcbConnection::windowList(xcb_atom_t property) {
         return windows;
     const auto count =
         static_cast<std::size_t>(xcb_get_property_value_length(reply.get())) / sizeof(xcb_window_t);
+    if (count == 0)
+        return windows;
     windows.resize(count);
     std::memcpy(windows.data(), xcb_get_property_value(reply.get()), count * sizeof(xcb_window_t));
     return windows;

@@ -70,3 +70,14 @@ std::uint32_t TestWindows::create(const Spec& spec) {
 }
 
 }  // namespace larkspan::test
+
+namespace larkspan::test {
+
+void TestWindows::map(std::uint32_t window) {
+    if (!connected())
+        return;
+    xcb_map_window(connection_->c, window);
+    xcb_flush(connection_->c);
+}
+
+}  // namespace larkspan::test

@@ -25,6 +25,8 @@ public:
 
     // Creates and maps a window with this process's pid in _NET_WM_PID. Returns its id, 0 on failure.
     std::uint32_t create(const Spec& spec);
+    // Asks again for the window to be shown; a window manager still starting may drop the first request.
+    void map(std::uint32_t window);
 
 private:
     struct Connection;

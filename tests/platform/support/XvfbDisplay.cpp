@@ -8,9 +8,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <fstream>
 #include <sstream>
 #include <thread>
 
@@ -66,13 +68,14 @@ pid_t spawnWith(const std::vector<std::string>& argv, const std::string& display
         argp.push_back(arg.data());
     argp.push_back(nullptr);
 
-    // fork rather than posix_spawn: the child asks to be killed when the test process dies, so a
-    // crashed test leaves no server behind. Only async-signal-safe calls between fork and exec.
+    // fork rather than posix_spawn: the child asks for SIGTERM when the test process dies, so a
+    // crashed test leaves no server (nor its socket and lock) behind. Only async-signal-safe calls
+    // between fork and exec.
     const pid_t pid = fork();
     if (pid < 0)
         return 0;
     if (pid == 0) {
-        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        prctl(PR_SET_PDEATHSIG, SIGTERM);
         const int devNull = open("/dev/null", O_RDWR);
         dup2(devNull, STDIN_FILENO);
         dup2(stdoutFd >= 0 ? stdoutFd : devNull, STDOUT_FILENO);
@@ -120,6 +123,8 @@ XvfbDisplay::~XvfbDisplay() {
         stop(pid);
     stop(windowManager_);
     stop(server_);
+    if (placeholderLock_)
+        fs::remove("/tmp/.X" + std::to_string(number_) + "-lock");
 }
 
 bool XvfbDisplay::startServer(int number) {
@@ -133,11 +138,18 @@ bool XvfbDisplay::startServer(int number) {
     const pid_t pid = spawnWith(argv, "");
     if (!pid)
         return false;
+    // The socket alone does not tell whose server it is: another test may have won the number. The
+    // lock file holds the pid of the server that owns it.
     const auto socket = "/tmp/.X11-unix/X" + std::to_string(number);
+    const auto lock = "/tmp/.X" + std::to_string(number) + "-lock";
     bool died = false;
     const bool up = waitUntil([&] {
         died = died || exited(pid);
-        return died || fs::exists(socket);
+        if (died || !fs::exists(socket))
+            return died;
+        long owner = 0;
+        std::ifstream(lock) >> owner;
+        return owner == pid;
     });
     if (!up || died) {
         if (!died) {
@@ -242,12 +254,22 @@ void XvfbDisplay::stopServer() {
         stop(pid);
     clients_.clear();
     stop(windowManager_);
+    const pid_t server = server_;
     stop(server_);
-    // Xvfb removes its socket and lock on a clean exit; wait so that a restart can take the number.
-    waitUntil([&] { return !fs::exists("/tmp/.X11-unix/X" + std::to_string(number_)); }, 2000ms);
+    // Xvfb removes its socket and lock on a clean exit. Keep the number from other tests meanwhile:
+    // a lock naming the dead server is stale to Xvfb, which replaces it, but taken to our search.
+    const auto number = std::to_string(number_);
+    waitUntil(
+        [&] { return !fs::exists("/tmp/.X11-unix/X" + number) && !fs::exists("/tmp/.X" + number + "-lock"); },
+        2000ms);
+    char text[16];
+    std::snprintf(text, sizeof text, "%10d\n", static_cast<int>(server));
+    std::ofstream("/tmp/.X" + number + "-lock") << text;
+    placeholderLock_ = true;
 }
 
 bool XvfbDisplay::restartServer() {
+    placeholderLock_ = false;
     if (number_ < 0 || !startServer(number_))
         return false;
     ready_ = !options_.windowManager || startWindowManager();

@@ -62,6 +62,7 @@ private:
     pid_t server_ = 0;
     pid_t windowManager_ = 0;
     std::vector<pid_t> clients_;
+    bool placeholderLock_ = false;  // our lock file holds the number while the server is down
     bool ready_ = false;
     std::string error_;
 };
