@@ -73,8 +73,9 @@ std::optional<RunningApplication> X11Workspace::frontmostApplication() {
     const auto window = connection->activeWindow();
     if (window == XCB_WINDOW_NONE)
         return std::nullopt;
+    // A window that vanished between the two reads gives empty clues: nothing is in front.
     const auto clues = connection->identityClues({window});
-    if (connection->broken())
+    if (connection->broken() || clues.front() == WindowClues{})
         return std::nullopt;
     return identity_->identify(clues.front());
 }
@@ -164,7 +165,7 @@ std::optional<X11Workspace::ActiveKey> X11Workspace::activeKey(XcbConnection& co
     if (window == XCB_WINDOW_NONE || connection.broken())
         return std::nullopt;
     const auto clues = connection.identityClues({window});
-    if (connection.broken())
+    if (connection.broken() || clues.front() == WindowClues{})
         return std::nullopt;
     const auto app = identity_->identify(clues.front());
     return ActiveKey{app.pid, app.bundleID};
