@@ -1,10 +1,9 @@
-// Pins the process's local time zone (TZ) for one test and restores the previous setting after it,
-// so that tests of local days give the same answer on every machine.
+// Pins the process's time zone (TZ) for the life of the object and puts the previous one back, so
+// that tests of local days and hours do not depend on the machine they run on.
 #pragma once
 
-#include <stdlib.h>
-#include <time.h>
-
+#include <cstdlib>
+#include <ctime>
 #include <optional>
 #include <string>
 
@@ -13,7 +12,7 @@ namespace larkspan::test {
 class ScopedTimeZone {
 public:
     explicit ScopedTimeZone(const char* zone) {
-        if (const char* old = getenv("TZ"))
+        if (const char* old = std::getenv("TZ"))
             previous_ = old;
         setenv("TZ", zone, 1);
         tzset();
