@@ -71,17 +71,6 @@ std::string dayLabel(std::string_view key) {
     return std::string(slash == std::string_view::npos ? key : key.substr(slash + 1));
 }
 
-std::string hourLabel(int hour) {
-    hour = ((hour % 24) + 24) % 24;
-    if (hour == 0)
-        return "12a";
-    if (hour < 12)
-        return std::to_string(hour) + "a";
-    if (hour == 12)
-        return "12p";
-    return std::to_string(hour - 12) + "p";
-}
-
 std::string formatTime(std::int64_t seconds) {
     if (seconds == 0)
         return "0m";

@@ -1,7 +1,8 @@
 // The plain figures of the analytics screen: sums, local days, labels and the one duration text of
 // that screen. Everything here is a function of the records and the catalogue passed in; nothing is
 // stored and nothing reads a clock. Local days and hours follow the TZ variable. The chart series,
-// focus sessions, breakdowns and periods come with this header from their own files.
+// focus sessions, breakdowns and periods come with this header from their own files; the charts'
+// hour labels are the timeline grid's hourLabel (Timeline/CanvasLayout.h).
 #pragma once
 
 #include <cstdint>
@@ -42,10 +43,6 @@ DayGroups groupByDay(const std::vector<ActivityRecord>& records);
 
 // The part of a day key after its last "/", or the whole key without one: "03/07" gives "07".
 std::string dayLabel(std::string_view key);
-
-// Hour of the day as a short label: 0 gives "12a", 9 gives "9a", 12 gives "12p", 15 gives "3p".
-// Hours outside 0 to 23 are taken modulo 24.
-std::string hourLabel(int hour);
 
 // Seconds as "0m", "45s", "2m" or "1h 1m"; every division truncates. Negative input reads as
 // seconds ("-5s").

@@ -5,6 +5,7 @@
 
 #include "Analytics/AnalyticsCalculations.h"
 #include "Analytics/LocalDayCache.h"
+#include "Timeline/CanvasLayout.h"
 
 namespace larkspan::analytics {
 

@@ -44,7 +44,7 @@ inline constexpr int kLastChartHour = 23;
 // One column of the productivity pattern chart.
 struct HourlyColumn {
     int hour = 0;          // 6 to 23
-    std::string label;     // hourLabel of the hour
+    std::string label;     // hourLabel of the hour, as the timeline's grid writes it
     double value = 0;      // minutes from the map, 0 for an hour without an entry
     double height = 0;     // points, at least kMinimumBarHeight
     double intensity = 0;  // value ÷ the largest value shown, 0 to 1

@@ -36,13 +36,7 @@ TEST(FormatTime, SecondsMinutesOrHoursAndMinutesTruncated) {
         EXPECT_EQ(formatTime(seconds), text) << seconds;
 }
 
-TEST(Labels, HourAndDayLabels) {
-    const std::pair<int, const char*> hours[] = {{0, "12a"},  {1, "1a"},   {11, "11a"},
-                                                 {12, "12p"}, {13, "1p"},  {15, "3p"},
-                                                 {23, "11p"}, {24, "12a"}, {-1, "11p"}};
-    for (const auto& [hour, text] : hours)
-        EXPECT_EQ(hourLabel(hour), text) << hour;
-
+TEST(DayLabel, PartAfterTheLastSlash) {
     EXPECT_EQ(dayLabel("03/07"), "07");  // the leading zero stays
     EXPECT_EQ(dayLabel("a/b/c"), "c");
     EXPECT_EQ(dayLabel("today"), "today");
