@@ -1,10 +1,8 @@
 #include "Analytics/LocalDayCache.h"
 
-#include <time.h>
-
 #include <algorithm>
-#include <cmath>
-#include <ctime>
+
+#include "Data/LocalDay.h"
 
 namespace larkspan::analytics {
 
@@ -12,52 +10,23 @@ namespace {
 
 constexpr double kSecondsPerDay = 86400;
 constexpr double kSecondsPerHour = 3600;
-constexpr double kLimit = 1e11;  // about 3,000 years either side of 1970; far beyond any real clock
 
-// The broken-down local time of `instant`. NaN reads as 1970 and absurd instants are clamped, so
-// localtime_r always has a representable time; should it still fail, the result is 1970-01-01.
-std::tm localParts(Date instant) {
-    const double whole = std::isnan(instant) ? 0.0 : std::clamp(std::floor(instant), -kLimit, kLimit);
-    const time_t t = static_cast<time_t>(whole);
-    std::tm parts{};
-    if (localtime_r(&t, &parts) == nullptr) {
-        parts = std::tm{};
-        parts.tm_year = 70;
-        parts.tm_mday = 1;
-    }
-    return parts;
-}
-
-LocalDay dayFromParts(const std::tm& parts) {
-    return {parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday};
-}
-
-// Local midnight of the day `parts` names, moved by `dayOffset` days; mktime normalises the date.
-Date midnight(std::tm parts, int dayOffset) {
-    parts.tm_mday += dayOffset;
-    parts.tm_hour = 0;
-    parts.tm_min = 0;
-    parts.tm_sec = 0;
-    parts.tm_isdst = -1;
-    return static_cast<Date>(mktime(&parts));
+// The local day of `instant`; 1970-01-01 should the zone be unable to express it.
+LocalDay dayFromZone(Date instant) {
+    const auto fields = localFields(instant);
+    if (!fields)
+        return {};
+    return {fields->tm_year + 1900, fields->tm_mon + 1, fields->tm_mday};
 }
 
 }  // namespace
-
-Date startOfLocalDay(Date instant) {
-    return midnight(localParts(instant), 0);
-}
-
-Date startOfNextLocalDay(Date instant) {
-    return midnight(localParts(instant), 1);
-}
 
 LocalDay LocalDayCache::dayOf(Date instant) {
     if (!covers(instant))
         refill(instant);
     if (covers(instant))
         return day_;
-    return dayFromParts(localParts(instant));
+    return dayFromZone(instant);
 }
 
 int LocalDayCache::hourOf(Date instant) {
@@ -68,7 +37,8 @@ int LocalDayCache::hourOf(Date instant) {
     if (covers(instant) && end_ - start_ == kSecondsPerDay) {
         return std::clamp(static_cast<int>((instant - start_) / kSecondsPerHour), 0, 23);
     }
-    return localParts(instant).tm_hour;
+    const auto fields = localFields(instant);
+    return fields ? fields->tm_hour : 0;
 }
 
 // Finds the bounds of the day of `instant` and keeps them only when they check out: both ends must
@@ -76,13 +46,11 @@ int LocalDayCache::hourOf(Date instant) {
 // some day may fail the check; that day is then answered by the zone on every call.
 void LocalDayCache::refill(Date instant) {
     valid_ = false;
-    const std::tm parts = localParts(instant);
-    const LocalDay day = dayFromParts(parts);
-    const Date start = midnight(parts, 0);
-    const Date end = midnight(parts, 1);
-    const auto dayAt = [](Date t) { return dayFromParts(localParts(t)); };
-    if (!(start < end) || dayAt(start) != day || dayAt(end - 1) != day || dayAt(start - 1) == day ||
-        dayAt(end) == day) {
+    const LocalDay day = dayFromZone(instant);
+    const Date start = startOfLocalDay(instant);
+    const Date end = startOfNextLocalDay(instant);
+    if (!(start < end) || dayFromZone(start) != day || dayFromZone(end - 1) != day ||
+        dayFromZone(start - 1) == day || dayFromZone(end) == day) {
         return;
     }
     day_ = day;

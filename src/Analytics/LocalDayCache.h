@@ -1,7 +1,8 @@
 // Local calendar look-ups for many instants in a row: the day and the hour of each record's start.
 // Records come from the store oldest first, so consecutive look-ups nearly always fall on the same
 // day. The cache keeps the last day found, with its true bounds, and answers from it while instants
-// fall inside; a miss costs a few localtime_r/mktime calls. Days and hours follow the TZ variable.
+// fall inside; a miss costs a few localtime_r/mktime calls (through Data/LocalDay). Days and hours
+// follow the TZ variable.
 #pragma once
 
 #include "Platform/Clock.h"
@@ -19,14 +20,10 @@ struct LocalDay {
     bool operator==(const LocalDay&) const = default;
 };
 
-// The local midnight that begins the day of `instant`, and the one that begins the next day; a day
-// of a clock change is 23 or 25 hours long.
-Date startOfLocalDay(Date instant);
-Date startOfNextLocalDay(Date instant);
-
 class LocalDayCache {
 public:
-    // The local day of `instant`. Non-finite or absurd instants are clamped, never undefined.
+    // The local day of `instant`. Non-finite or absurd instants are clamped as Data/LocalDay does,
+    // never undefined.
     LocalDay dayOf(Date instant);
     // The local hour, 0 to 23, of `instant`.
     int hourOf(Date instant);

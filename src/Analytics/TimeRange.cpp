@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "Analytics/LocalDayCache.h"
+#include "Data/LocalDay.h"
 
 namespace larkspan::analytics {
 

@@ -18,14 +18,6 @@ std::time_t toTimeT(Date instant) {
     return static_cast<std::time_t>(clamped);
 }
 
-std::optional<std::tm> localFields(Date instant) {
-    const std::time_t t = toTimeT(instant);
-    std::tm fields{};
-    if (localtime_r(&t, &fields) == nullptr)
-        return std::nullopt;
-    return fields;
-}
-
 // Local midnight of the day `dayOffset` days after the one in `fields`.
 Date midnightOf(std::tm fields, int dayOffset, Date fallback) {
     fields.tm_mday += dayOffset;
@@ -38,6 +30,14 @@ Date midnightOf(std::tm fields, int dayOffset, Date fallback) {
 }
 
 }  // namespace
+
+std::optional<std::tm> localFields(Date instant) {
+    const std::time_t t = toTimeT(instant);
+    std::tm fields{};
+    if (localtime_r(&t, &fields) == nullptr)
+        return std::nullopt;
+    return fields;
+}
 
 Date startOfLocalDay(Date instant) {
     const auto fields = localFields(instant);

@@ -3,12 +3,17 @@
 // hours long. Instants far outside any plausible clock reading are clamped, never undefined.
 #pragma once
 
+#include <ctime>
 #include <optional>
 #include <string>
 
 #include "Platform/Clock.h"
 
 namespace larkspan {
+
+// The local calendar fields of `instant`, floored to its second, as localtime_r gives them; absent
+// when the zone cannot express that moment.
+std::optional<std::tm> localFields(Date instant);
 
 // The local midnight that begins the day of `instant`.
 Date startOfLocalDay(Date instant);

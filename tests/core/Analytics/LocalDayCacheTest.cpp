@@ -57,7 +57,7 @@ TEST(LocalDayCache, InstantsThatAreNoTimeDoNotBreakIt) {
     ScopedTimeZone zone{"UTC"};
     LocalDayCache cache;
     EXPECT_EQ(cache.dayOf(std::numeric_limits<double>::quiet_NaN()), (LocalDay{1970, 1, 1}));
-    EXPECT_EQ(cache.hourOf(std::numeric_limits<double>::infinity()), cache.hourOf(1e11));
+    EXPECT_EQ(cache.hourOf(std::numeric_limits<double>::infinity()), cache.hourOf(1e300));
     EXPECT_GT(cache.dayOf(1e300).year, 5000);
     EXPECT_LT(cache.dayOf(-1e300).year, -1000);
 }
