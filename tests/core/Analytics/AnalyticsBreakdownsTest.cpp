@@ -6,15 +6,13 @@
 #include <string>
 #include <vector>
 
+#include "ActivityBuilder.h"
+
 namespace larkspan::analytics {
 namespace {
 
 ActivityRecord record(std::string app, std::int64_t seconds, std::optional<std::int64_t> category) {
-    ActivityRecord r;
-    r.appName = std::move(app);
-    r.categoryID = category;
-    r.durationSeconds = seconds;
-    return r;
+    return test::ActivityBuilder(0, 0, seconds).app(std::move(app)).category(category);
 }
 
 TEST(CategoryFigures, EightLongestWithFractionsOfEveryCategory) {

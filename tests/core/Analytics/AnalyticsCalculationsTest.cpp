@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "ActivityBuilder.h"
 #include "LocalInstant.h"
 #include "ScopedTimeZone.h"
 
@@ -19,12 +20,7 @@ constexpr std::int64_t kCoding = 1;   // productive
 constexpr std::int64_t kGaming = 19;  // unproductive
 
 ActivityRecord record(Date start, std::int64_t seconds, std::optional<std::int64_t> category = kCoding) {
-    ActivityRecord r;
-    r.appName = "Editor";
-    r.categoryID = category;
-    r.startTime = start;
-    r.durationSeconds = seconds;
-    return r;
+    return test::ActivityBuilder(0, start, seconds).category(category);
 }
 
 TEST(FormatTime, SecondsMinutesOrHoursAndMinutesTruncated) {

@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "ActivityBuilder.h"
 #include "LocalInstant.h"
 #include "ScopedTimeZone.h"
 
@@ -14,13 +15,7 @@ using test::localInstant;
 using test::ScopedTimeZone;
 
 ActivityRecord record(Date start, std::int64_t seconds, std::int64_t category) {
-    ActivityRecord r;
-    r.appName = "Editor";
-    r.categoryID = category;
-    r.startTime = start;
-    r.endTime = start + static_cast<double>(seconds);
-    r.durationSeconds = seconds;
-    return r;
+    return test::ActivityBuilder(0, start, seconds).category(category);
 }
 
 TEST(AnalyticsPage, TilesCountEverySessionAndDay) {

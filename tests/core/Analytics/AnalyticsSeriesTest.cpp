@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "ActivityBuilder.h"
 #include "LocalInstant.h"
 #include "ScopedTimeZone.h"
 
@@ -19,13 +20,7 @@ constexpr std::int64_t kCoding = 1;  // productive
 constexpr std::int64_t kMusic = 12;  // neutral
 
 ActivityRecord record(Date start, std::int64_t seconds, std::optional<std::int64_t> category = kCoding) {
-    ActivityRecord r;
-    r.appName = "Editor";
-    r.categoryID = category;
-    r.startTime = start;
-    r.endTime = start + static_cast<double>(seconds);
-    r.durationSeconds = seconds;
-    return r;
+    return test::ActivityBuilder(0, start, seconds).category(category);
 }
 
 const CategoryMap& seeded() {

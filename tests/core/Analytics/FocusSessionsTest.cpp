@@ -6,6 +6,8 @@
 #include <optional>
 #include <vector>
 
+#include "ActivityBuilder.h"
+
 namespace larkspan::analytics {
 namespace {
 
@@ -14,13 +16,7 @@ constexpr std::int64_t kSocialMedia = 17;  // unproductive
 constexpr Date kNine = 1'767'258'000;      // any instant; sessions don't depend on the zone
 
 ActivityRecord record(Date start, std::int64_t seconds, std::optional<std::int64_t> category = kCoding) {
-    ActivityRecord r;
-    r.appName = "Editor";
-    r.categoryID = category;
-    r.startTime = start;
-    r.endTime = start + static_cast<double>(seconds);
-    r.durationSeconds = seconds;
-    return r;
+    return test::ActivityBuilder(0, start, seconds).category(category);
 }
 
 std::vector<FocusSession> sessionsOf(const std::vector<ActivityRecord>& records) {
