@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstdlib>
-#include <ctime>
 #include <limits>
 #include <memory>
 #include <optional>
@@ -12,10 +10,12 @@
 #include <utility>
 #include <vector>
 
+#include "LocalInstant.h"
 #include "ManualClock.h"
 #include "ManualTimerHub.h"
 #include "MemoryKeyValueStore.h"
 #include "RecordingSoundPlayer.h"
+#include "ScopedTimeZone.h"
 
 namespace larkspan {
 namespace {
@@ -50,35 +50,8 @@ struct Rig {
 // Local days are taken in a zone three hours east of UTC, so a day that is wrongly taken in UTC
 // shows up around local midnight.
 class PomodoroTimerTest : public ::testing::Test, protected Rig {
-protected:
-    void SetUp() override {
-        if (const char* tz = std::getenv("TZ"))
-            previousTZ_ = tz;
-        setenv("TZ", "<+03>-3", 1);
-        tzset();
-    }
-    void TearDown() override {
-        if (previousTZ_) {
-            setenv("TZ", previousTZ_->c_str(), 1);
-        } else {
-            unsetenv("TZ");
-        }
-        tzset();
-    }
-
-    static Date localMoment(int year, int month, int day, int hour, int minute) {
-        std::tm local{};
-        local.tm_year = year - 1900;
-        local.tm_mon = month - 1;
-        local.tm_mday = day;
-        local.tm_hour = hour;
-        local.tm_min = minute;
-        local.tm_isdst = -1;
-        return static_cast<Date>(std::mktime(&local));
-    }
-
 private:
-    std::optional<std::string> previousTZ_;
+    test::ScopedTimeZone zone_{"<+03>-3"};
 };
 
 TEST_F(PomodoroTimerTest, EveryTransitionOfTheStateTable) {
@@ -333,20 +306,20 @@ TEST_F(PomodoroTimerTest, SkipNeverCountsNorEarnsTheLongBreak) {
 }
 
 TEST_F(PomodoroTimerTest, MidnightWhileIdleIsNoticedAtTheNextStart) {
-    clock.set(localMoment(2026, 3, 14, 23, 58));
+    clock.set(test::localInstant(2026, 3, 14, 23, 58));
     defaults.setText("pomo_date", "2026-03-14");
     defaults.setInteger("pomo_count", 5);
     auto timer = make();
     EXPECT_EQ(timer->todayCount.get(), 5);
 
-    clock.set(localMoment(2026, 3, 15, 0, 30));  // still the 14th in UTC
+    clock.set(test::localInstant(2026, 3, 15, 0, 30));  // still the 14th in UTC
     EXPECT_EQ(timer->todayCount.get(), 5);
     timer->start();
     EXPECT_EQ(timer->todayCount.get(), 0);
 }
 
 TEST_F(PomodoroTimerTest, MidnightWhilePausedCountsTheCompletionForTheNewDay) {
-    clock.set(localMoment(2026, 3, 14, 23, 50));
+    clock.set(test::localInstant(2026, 3, 14, 23, 50));
     defaults.setText("pomo_date", "2026-03-14");
     defaults.setInteger("pomo_count", 5);
     auto timer = make();
@@ -354,7 +327,7 @@ TEST_F(PomodoroTimerTest, MidnightWhilePausedCountsTheCompletionForTheNewDay) {
     hub.advance(60);
     timer->pause();
 
-    clock.set(localMoment(2026, 3, 15, 0, 30));
+    clock.set(test::localInstant(2026, 3, 15, 0, 30));
     timer->start();
     EXPECT_EQ(timer->todayCount.get(), 0);
     hub.advance(static_cast<double>(timer->secondsLeft.get()));
