@@ -6,13 +6,16 @@
 #include <string>
 #include <vector>
 
+#include "ActivityBuilder.h"
 #include "LocalInstant.h"
 #include "ScopedTimeZone.h"
+#include "SqliteFile.h"
 #include "TempDir.h"
 
 namespace larkspan::analytics {
 namespace {
 
+using test::ActivityBuilder;
 using test::localInstant;
 using test::ScopedTimeZone;
 using test::TempDir;
@@ -20,14 +23,14 @@ using test::TempDir;
 class AnalyticsLoad : public ::testing::Test {
 protected:
     void add(Date start, std::int64_t seconds, std::optional<std::string> domain = std::nullopt) {
-        ActivityRecord record;
-        record.appName = "Browser";
-        record.categoryID = 1;
-        record.urlDomain = std::move(domain);
-        record.startTime = start;
-        record.endTime = start + static_cast<double>(seconds);
-        record.durationSeconds = seconds;
-        db.insertActivity(record);
+        db.insertActivity(
+            ActivityBuilder(0, start, seconds).app("Browser").category(1).domain(std::move(domain)));
+    }
+    static std::vector<std::int64_t> durations(const AnalyticsData& data) {
+        std::vector<std::int64_t> seconds;
+        for (const ActivityRecord& record : data.activities)
+            seconds.push_back(record.durationSeconds);
+        return seconds;
     }
     void pomodoros(Date when, int count) {
         for (int i = 0; i < count; ++i)
@@ -53,10 +56,7 @@ TEST_F(AnalyticsLoad, WeekKeepsRecordsOverFiveSecondsButCountsEveryWebsiteSecond
     add(now + 1, 600);
 
     const AnalyticsData data = load(db, TimeRange::week, now, now);
-    std::vector<std::int64_t> durations;
-    for (const ActivityRecord& record : data.activities)
-        durations.push_back(record.durationSeconds);
-    EXPECT_EQ(durations,
+    EXPECT_EQ(durations(data),
               (std::vector<std::int64_t>{60, 6, 300, 10, 20, 30, 40, 50, 60, 70, 80, 90, 100, 30}));
     // The 5-second visit is no activity here, yet its seconds count for its website; of eleven
     // websites the ten longest come.
@@ -76,6 +76,42 @@ TEST_F(AnalyticsLoad, PomodorosOfWholeLocalDaysAndOfThePastDayAlone) {
     // A past day ends at the next midnight, which the next day's count must not join.
     EXPECT_EQ(load(db, TimeRange::day, localInstant(2026, 11, 11, 12), now).totalPomos, 2);
     EXPECT_EQ(load(db, TimeRange::month, now, now).totalPomos, 14);
+}
+
+TEST_F(AnalyticsLoad, DayRunsFromItsMidnightToTheNextOrToNow) {
+    // 1 November 2026 is 25 hours long in New York: the clocks go back at 02:00.
+    const Date fallBack = localInstant(2026, 11, 1);
+    const Date nextMidnight = localInstant(2026, 11, 2);
+    ASSERT_EQ(nextMidnight - fallBack, 25 * 3600.0);
+    add(fallBack - 1, 11);
+    add(fallBack, 12);
+    add(fallBack + 24.5 * 3600, 13);  // 23:30 on the wall clock
+    add(nextMidnight, 14);            // the period is closed at both ends
+    add(nextMidnight + 1, 15);
+    EXPECT_EQ(durations(load(db, TimeRange::day, fallBack + 12 * 3600, now)),
+              (std::vector<std::int64_t>{12, 13, 14}));
+
+    // Today, and a day stepped to today, stop at the present moment.
+    const Date todayMidnight = localInstant(2026, 11, 18);
+    add(todayMidnight, 21);
+    add(now - 1, 22);
+    add(now + 60, 23);
+    EXPECT_EQ(durations(load(db, TimeRange::today, fallBack, now)), (std::vector<std::int64_t>{21, 22}));
+    EXPECT_EQ(durations(load(db, TimeRange::day, now, now)), (std::vector<std::int64_t>{21, 22}));
+}
+
+TEST_F(AnalyticsLoad, StoreThatFailsGivesAnEmptyPeriod) {
+    add(now - 600, 300, "site.example");
+    pomodoros(now, 2);
+    ASSERT_EQ(load(db, TimeRange::week, now, now).totalPomos, 2);
+
+    test::SqliteFile(dir / "tracker.db").exec("DROP TABLE activities; DROP TABLE daily_pomo_counts");
+    for (const TimeRange range : kTimeRanges) {
+        const AnalyticsData data = load(db, range, now, now);
+        EXPECT_TRUE(data.activities.empty()) << rawValue(range);
+        EXPECT_TRUE(data.topDomains.empty()) << rawValue(range);
+        EXPECT_EQ(data.totalPomos, 0) << rawValue(range);
+    }
 }
 
 }  // namespace
