@@ -27,6 +27,8 @@ AnalyticsData ninetyDays() {
     const Date first = 1'764'547'200;  // 1 December 2025, 00:00 UTC
     AnalyticsData data;
     data.totalPomos = 120;
+    for (int i = 0; i < 10; ++i)
+        data.topDomains.push_back({"site" + std::to_string(i) + ".example", 90'000 - 5'000 * i});
     // Records spread over the waking hours 07:00 to 23:00 of each day, some 444 a day.
     const int perDay = kRecords / kDays + 1;
     for (int i = 0; i < kRecords; ++i) {
