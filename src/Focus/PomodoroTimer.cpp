@@ -3,9 +3,10 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <ctime>
 #include <limits>
 #include <utility>
+
+#include "Data/LocalDay.h"
 
 namespace larkspan {
 
@@ -128,18 +129,6 @@ void PomodoroTimer::resetTodayCount() {
     saveTodayCount();
 }
 
-std::string PomodoroTimer::todayString(const Clock& clock) {
-    // Floor, not truncation: a moment before 1970 belongs to the day before.
-    const auto seconds = static_cast<std::time_t>(wholeSecondsBetween(0, std::floor(clock.now())));
-    std::tm local{};
-    if (localtime_r(&seconds, &local) == nullptr)
-        return {};
-    char text[48];
-    std::snprintf(text, sizeof text, "%04lld-%02d-%02d", static_cast<long long>(local.tm_year) + 1900,
-                  local.tm_mon + 1, local.tm_mday);
-    return text;
-}
-
 std::string PomodoroTimer::displayTime() const {
     const std::int64_t seconds = secondsLeft.get();
     char text[48];
@@ -173,7 +162,7 @@ void PomodoroTimer::loadSettings() {
 void PomodoroTimer::loadTodayCount() {
     // A count filed under any other day, or under none, belongs to no day the user sees now.
     const auto storedDay = defaults_.text(kDateKey);
-    if (storedDay && *storedDay == todayString(clock_)) {
+    if (storedDay && *storedDay == localDayString(clock_.now())) {
         todayCount.set(defaults_.integer(kCountKey).value_or(0));
     } else {
         todayCount.set(0);
@@ -182,7 +171,7 @@ void PomodoroTimer::loadTodayCount() {
 
 void PomodoroTimer::saveTodayCount() {
     defaults_.setInteger(kCountKey, todayCount.get());
-    defaults_.setText(kDateKey, todayString(clock_));
+    defaults_.setText(kDateKey, localDayString(clock_.now()));
 }
 
 std::int64_t PomodoroTimer::currentDurationSecs() const {

@@ -78,10 +78,6 @@ public:
     // Sets today's count to 0 and saves it.
     void resetTodayCount();
 
-    // The local calendar day of the clock's present moment as "yyyy-MM-dd" (TZ honoured); empty for
-    // a moment the C library cannot place in a calendar.
-    static std::string todayString(const Clock& clock);
-
     // The clock as minutes and seconds, "%02d:%02d", minutes not capped: 6000 seconds read "100:00".
     std::string displayTime() const;
     // Fraction of the present duration used: 0 when idle, 1 at the end, negative after the wall

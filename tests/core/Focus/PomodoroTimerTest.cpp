@@ -1,5 +1,7 @@
 #include "Focus/PomodoroTimer.h"
 
+#include "Data/LocalDay.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -97,7 +99,7 @@ TEST_F(PomodoroTimerTest, EveryTransitionOfTheStateTable) {
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         Rig rig;
-        rig.defaults.setText("pomo_date", PomodoroTimer::todayString(rig.clock));
+        rig.defaults.setText("pomo_date", localDayString(rig.clock.now()));
         rig.defaults.setInteger("pomo_count", 2);
         auto timer = rig.make();
         timer->switchMode(row.fromMode);
@@ -341,7 +343,7 @@ TEST_F(PomodoroTimerTest, CountWithoutItsDayReadsZero) {
     EXPECT_EQ(make()->todayCount.get(), 0);
     EXPECT_EQ(defaults.values.size(), 1U);  // nothing written back
 
-    defaults.setText("pomo_date", PomodoroTimer::todayString(clock));
+    defaults.setText("pomo_date", localDayString(clock.now()));
     EXPECT_EQ(make()->todayCount.get(), 9);
 }
 
@@ -370,7 +372,7 @@ TEST_F(PomodoroTimerTest, StoredSettingsBelowOneOrNotIntegersKeepTheDefaults) {
 TEST_F(PomodoroTimerTest, AbsurdSettingsAndClockJumpsStayDefined) {
     constexpr std::int64_t huge = std::numeric_limits<std::int64_t>::max();
     defaults.setInteger("pomo_focus", huge);
-    defaults.setText("pomo_date", PomodoroTimer::todayString(clock));
+    defaults.setText("pomo_date", localDayString(clock.now()));
     defaults.setInteger("pomo_count", huge);
     auto timer = make();
     EXPECT_EQ(timer->secondsLeft.get(), huge);  // minutes × 60 saturates
