@@ -1,7 +1,5 @@
 #include "Focus/PomodoroTimer.h"
 
-#include "Data/LocalDay.h"
-
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -12,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "Data/LocalDay.h"
 #include "LocalInstant.h"
 #include "ManualClock.h"
 #include "ManualTimerHub.h"
