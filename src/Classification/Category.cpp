@@ -1,5 +1,8 @@
+// The seeded catalogue and the lenient colour parse behind every category swatch. A colour text
+// may have been edited by hand, so the parse accepts any text and gives black for what it cannot read.
 #include "Classification/Category.h"
 
+#include <array>
 #include <cstdint>
 
 namespace larkspan {
@@ -31,21 +34,45 @@ const char* label(Productivity p) {
 
 namespace {
 
-bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\v' || c == '\f'; }
+// White space and line breaks in UTF-8: the ASCII controls tab to carriage return, NEL, and every
+// Unicode space and line or paragraph separator. Colour texts may come from hand-edited rows.
+constexpr std::array<std::string_view, 25> kBlanks = {
+    "\t",     "\n",     "\v",     "\f",     "\r",     " ",      "\xC2\x85", "\u00A0", "\u1680",
+    "\u2000", "\u2001", "\u2002", "\u2003", "\u2004", "\u2005", "\u2006",   "\u2007", "\u2008",
+    "\u2009", "\u200A", "\u2028", "\u2029", "\u202F", "\u205F", "\u3000",
+};
+
+// `text` without the white space and line breaks it begins with. Trailing ones need no cut: the
+// hex scan stops at them anyway.
+std::string_view withoutLeadingBlanks(std::string_view text) {
+    for (bool cut = true; cut;) {
+        cut = false;
+        for (std::string_view blank : kBlanks) {
+            if (text.starts_with(blank)) {
+                text.remove_prefix(blank.size());
+                cut = true;
+            }
+        }
+    }
+    return text;
+}
 
 int hexDigit(char c) {
-    if (c >= '0' && c <= '9') return c - '0';
-    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+    if (c >= '0' && c <= '9')
+        return c - '0';
+    if (c >= 'a' && c <= 'f')
+        return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F')
+        return c - 'A' + 10;
     return -1;
 }
 
 }  // namespace
 
 Color Color::fromHex(std::string_view text) {
-    while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
-    while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
-    if (!text.empty() && text.front() == '#') text.remove_prefix(1);
+    text = withoutLeadingBlanks(text);
+    if (!text.empty() && text.front() == '#')
+        text.remove_prefix(1);
 
     // Like a 64-bit hex scan that overflows by saturating: more than 16 digits keep the maximum,
     // whose low 24 bits are all ones.
@@ -53,12 +80,14 @@ Color Color::fromHex(std::string_view text) {
     bool saturated = false;
     for (char c : text) {
         const int digit = hexDigit(c);
-        if (digit < 0) break;
-        if (value > (UINT64_MAX >> 4)) saturated = true;
+        if (digit < 0)
+            break;
+        if (value > (UINT64_MAX >> 4))
+            saturated = true;
         value = saturated ? UINT64_MAX : (value << 4) | static_cast<std::uint64_t>(digit);
     }
-    return Color{static_cast<double>((value >> 16) & 0xFF) / 255.0, static_cast<double>((value >> 8) & 0xFF) / 255.0,
-                 static_cast<double>(value & 0xFF) / 255.0};
+    return Color{static_cast<double>((value >> 16) & 0xFF) / 255.0,
+                 static_cast<double>((value >> 8) & 0xFF) / 255.0, static_cast<double>(value & 0xFF) / 255.0};
 }
 
 const std::vector<Category>& Category::seeded() {
@@ -97,7 +126,8 @@ const std::vector<Category>& Category::seeded() {
         std::vector<Category> list;
         int id = 1;
         for (const auto& row : rows) {
-            list.push_back(Category{id, row.name, row.colorHex, row.icon, row.productivity, std::nullopt, true, id});
+            list.push_back(
+                Category{id, row.name, row.colorHex, row.icon, row.productivity, std::nullopt, true, id});
             ++id;
         }
         return list;

@@ -14,7 +14,9 @@ enum class Productivity : int { productive = 1, neutral = 0, unproductive = -1 }
 
 // The case for a stored raw value; none for anything but 1, 0, -1.
 std::optional<Productivity> productivityFromRaw(std::int64_t raw);
-constexpr int rawValue(Productivity p) { return static_cast<int>(p); }
+constexpr int rawValue(Productivity p) {
+    return static_cast<int>(p);
+}
 const char* label(Productivity p);
 
 // An sRGB colour, each channel 0 to 1, always opaque.
@@ -23,8 +25,9 @@ struct Color {
     double green = 0;
     double blue = 0;
 
-    // Parses "#RRGGBB" leniently: blanks around it and the "#" are optional, reading stops at the
-    // first non-hex digit, bits above the low 24 are ignored, unreadable text gives black.
+    // Parses "#RRGGBB" leniently: white space and line breaks around it (Unicode ones too) and the
+    // "#" are optional, reading stops at the first non-hex digit, a value past 64 bits saturates,
+    // bits above the low 24 are ignored, and text that does not begin with a hex digit gives black.
     static Color fromHex(std::string_view text);
     bool operator==(const Color&) const = default;
 };
@@ -46,11 +49,29 @@ struct Category {
     static const std::vector<Category>& seeded();
 };
 
+// The ids of the seeded categories. Rules name categories by these ids, never by name.
 namespace category_id {
+inline constexpr std::int64_t coding = 1;
+inline constexpr std::int64_t terminal = 2;
+inline constexpr std::int64_t writing = 3;
 inline constexpr std::int64_t learning = 4;
-inline constexpr std::int64_t awayBreak = 15;
+inline constexpr std::int64_t email = 5;
+inline constexpr std::int64_t communication = 6;
+inline constexpr std::int64_t planning = 7;
+inline constexpr std::int64_t design = 8;
+inline constexpr std::int64_t aiTools = 9;
+inline constexpr std::int64_t reading = 10;
+inline constexpr std::int64_t research = 11;
+inline constexpr std::int64_t music = 12;
+inline constexpr std::int64_t system = 13;
+inline constexpr std::int64_t files = 14;
+inline constexpr std::int64_t awayBreak = 15;  // idle spans
 inline constexpr std::int64_t entertainment = 16;
-inline constexpr std::int64_t other = 21;
+inline constexpr std::int64_t socialMedia = 17;
+inline constexpr std::int64_t shopping = 18;
+inline constexpr std::int64_t gaming = 19;
+inline constexpr std::int64_t timepass = 20;
+inline constexpr std::int64_t other = 21;  // the catch-all, and the reading of an absent category
 }  // namespace category_id
 
 }  // namespace larkspan

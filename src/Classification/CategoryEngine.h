@@ -11,6 +11,7 @@
 
 namespace larkspan {
 
+// A result below this confidence makes the activity one the user is asked about.
 inline constexpr double kApprovalThreshold = 0.65;
 
 struct ClassificationResult {
@@ -34,12 +35,33 @@ public:
     // As fetched from the store, in the store's order. Written by the owner; the engine only reads.
     std::vector<LearnedRule> learnedRules;
 
+    // The category of an activity, never absent. Tried in order, the first answer wins:
+    //   1. mixed test: `domain`, lower-cased, is one of mixedContentDomains() (exactly, no subdomain);
+    //   2. not mixed: learned "domain", then "bundle_id", then "app_name" rule  -> (rule, 0.99);
+    //   3. mixed: learned "url", then "title" rule                               -> (rule, 0.99);
+    //   4. domain table; 5. bundle table; 6. application-name table; 7. window-title extensions;
+    //   8. (Other, 0.3), which needs approval.
+    // Learned keys match exactly and case-sensitively. An absent or empty domain, bundle id, address or
+    // title skips its learned step; the name has no such test.
     ClassificationResult classify(std::string_view appName, const std::optional<std::string>& bundleID,
-                                  const std::optional<std::string>& windowTitle, const std::optional<std::string>& url,
+                                  const std::optional<std::string>& windowTitle,
+                                  const std::optional<std::string>& url,
                                   const std::optional<std::string>& domain) const;
 
     // Services judged page by page rather than as a whole domain: bare main domains, lower case.
     static const std::unordered_set<std::string>& mixedContentDomains();
+
+private:
+    // Steps 1 to 3: the learned rule that decides the activity, if any.
+    std::optional<ClassificationResult> learnedResult(std::string_view appName,
+                                                      const std::optional<std::string>& bundleID,
+                                                      const std::optional<std::string>& windowTitle,
+                                                      const std::optional<std::string>& url,
+                                                      const std::optional<std::string>& domain) const;
 };
+
+// Whether a video title reads as learning: more entries of the educational keyword list than of
+// the entertainment list occur in it (ASCII case-insensitive substrings, each entry counted once).
+bool isEducationalVideoTitle(std::string_view title);
 
 }  // namespace larkspan

@@ -36,7 +36,9 @@ void SerialQueue::sync(const std::function<void()>& work) {
         work();
         return;
     }
+    // Take the future before queueing: once the work has run, the promise may be gone.
     std::promise<void> done;
+    auto finished = done.get_future();
     async([&] {
         try {
             work();
@@ -45,7 +47,7 @@ void SerialQueue::sync(const std::function<void()>& work) {
             done.set_exception(std::current_exception());
         }
     });
-    done.get_future().get();
+    finished.get();
 }
 
 void SerialQueue::run() {

@@ -1,36 +1,38 @@
+// Identity and display texts of activity records. The title-priority set and the browser suffixes
+// are a dozen entries each, scanned in order; display texts are built on demand, never cached.
 #include "Tracking/ActivityRecord.h"
 
 #include <algorithm>
 #include <array>
+
+#include "Platform/OptionalText.h"
 
 namespace larkspan {
 
 namespace {
 
 constexpr std::array<std::string_view, 12> kTitlePriorityDomains = {
-    "youtube.com", "m.youtube.com", "youtu.be",  "github.com",        "stackoverflow.com", "medium.com",
-    "docs.google.com", "notion.so", "figma.com", "jira.atlassian.com", "linear.app",        "arxiv.org",
+    "youtube.com",     "m.youtube.com", "youtu.be",  "github.com",         "stackoverflow.com", "medium.com",
+    "docs.google.com", "notion.so",     "figma.com", "jira.atlassian.com", "linear.app",        "arxiv.org",
 };
 
 // Checked in this order; the first that matches is the only one cut.
 constexpr std::array<std::string_view, 12> kBrowserTitleSuffixes = {
-    " - YouTube",      " \u00B7 GitHub",   " - Google Docs",   " - Google Sheets",
-    " - Stack Overflow", " \u2014 Medium", " - Figma",         " - Notion",
-    " - Google Chrome", " \u2013 Firefox", " - Safari",        " - Arc",
+    " - YouTube",        " \u00B7 GitHub",  " - Google Docs", " - Google Sheets",
+    " - Stack Overflow", " \u2014 Medium",  " - Figma",       " - Notion",
+    " - Google Chrome",  " \u2013 Firefox", " - Safari",      " - Arc",
 };
 
 std::string_view withoutWww(std::string_view domain) {
     return domain.starts_with("www.") ? domain.substr(4) : domain;
 }
 
-bool hasText(const std::optional<std::string>& text) { return text && !text->empty(); }
-
 }  // namespace
 
 bool isTitlePriorityDomain(std::string_view domain) {
     for (std::string_view entry : kTitlePriorityDomains) {
-        if (domain == entry ||
-            (domain.size() > entry.size() && domain.ends_with(entry) && domain[domain.size() - entry.size() - 1] == '.')) {
+        if (domain == entry || (domain.size() > entry.size() && domain.ends_with(entry) &&
+                                domain[domain.size() - entry.size() - 1] == '.')) {
             return true;
         }
     }
@@ -45,8 +47,10 @@ std::string cleanBrowserTitle(std::string_view title) {
         }
     }
     const auto blank = [](char c) { return c == ' ' || c == '\t'; };
-    while (!title.empty() && blank(title.front())) title.remove_prefix(1);
-    while (!title.empty() && blank(title.back())) title.remove_suffix(1);
+    while (!title.empty() && blank(title.front()))
+        title.remove_prefix(1);
+    while (!title.empty() && blank(title.back()))
+        title.remove_suffix(1);
     return std::string(title);
 }
 
@@ -61,8 +65,8 @@ ActivityRecord ActivityRecord::idle(Date startTime, std::int64_t categoryID) {
     return record;
 }
 
-ActivityRecord ActivityRecord::manual(Date start, Date end, std::optional<std::int64_t> categoryID, std::string title,
-                                      std::optional<std::string> notes) {
+ActivityRecord ActivityRecord::manual(Date start, Date end, std::optional<std::int64_t> categoryID,
+                                      std::string title, std::optional<std::string> notes) {
     ActivityRecord record;
     record.appName = title;
     record.windowTitle = std::move(title);

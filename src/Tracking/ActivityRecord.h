@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "Classification/Category.h"
 #include "Platform/Clock.h"
 
 namespace larkspan {
@@ -51,14 +52,14 @@ struct ActivityRecord {
     bool needsApproval = false;
     bool isApproved = false;
     Date startTime = 0;
-    std::optional<Date> endTime;  // absent while open, until the first heartbeat
+    std::optional<Date> endTime;       // absent while open, until the first heartbeat
     std::int64_t durationSeconds = 0;  // whole seconds, truncated
     bool isManual = false;
     std::optional<std::string> notes;
 
-    static ActivityRecord idle(Date startTime, std::int64_t categoryID = 15);
-    static ActivityRecord manual(Date start, Date end, std::optional<std::int64_t> categoryID, std::string title,
-                                 std::optional<std::string> notes);
+    static ActivityRecord idle(Date startTime, std::int64_t categoryID = category_id::awayBreak);
+    static ActivityRecord manual(Date start, Date end, std::optional<std::int64_t> categoryID,
+                                 std::string title, std::optional<std::string> notes);
 
     double duration() const { return static_cast<double>(durationSeconds); }
     // The only mark of an away span in a stored row is its name.

@@ -1,0 +1,133 @@
+// The day view's computation at every redraw: blocks, chapters and the canvas layout of a busy day,
+// and the width pass of the layout, which compares placed chapters pairwise, from 100 to 2,000 chapters.
+
+#include <benchmark/benchmark.h>
+
+#include <array>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "ActivityBuilder.h"
+#include "Timeline/CanvasLayout.h"
+#include "Timeline/TimelineGrouping.h"
+
+namespace larkspan {
+namespace {
+
+using test::ActivityBuilder;
+
+constexpr Date kDayStart = 1'763'856'000;
+
+// 1,500 activities from 07:00: site visits, editor and terminal windows, chat windows with long
+// titles, and every fortieth an away span of 2 to 20 minutes; short pauses between them.
+std::vector<ActivityRecord> busyDay() {
+    std::mt19937 random(1500);
+    const std::array<const char*, 8> hosts = {
+        "github.com",       "docs.rs",     "news.ycombinator.com", "mail.example.org",
+        "en.wikipedia.org", "youtube.com", "stackoverflow.com",    "calendar.example.org"};
+    std::vector<ActivityRecord> day;
+    Date t = kDayStart + 7 * 3600;
+    for (std::int64_t id = 1; id <= 1500; ++id) {
+        const std::int64_t seconds = 5 + static_cast<std::int64_t>(random() % 60);
+        ActivityBuilder a(id, t, seconds);
+        switch (random() % 4) {
+            case 0:
+                a.app("Firefox", "org.mozilla.firefox")
+                    .domain(hosts[random() % hosts.size()])
+                    .title("A page title");
+                break;
+            case 1:
+                a.app("Code", "com.microsoft.VSCode").title("file" + std::to_string(random() % 9) + ".cpp");
+                break;
+            case 2:
+                a.app("kitty", "net.kovidgoyal.kitty").title("~/src");
+                break;
+            default:
+                a.app("Chat", "org.example.Chat")
+                    .title(
+                        "\U0001F4AC Team room \u00B7 a long channel topic that runs past sixty characters #" +
+                        std::to_string(random() % 5));
+                break;
+        }
+        a.category(static_cast<std::int64_t>(random() % 6));
+        if (id % 40 == 0)
+            a = ActivityBuilder::away(id, t, 120 + static_cast<std::int64_t>(random() % 1080));
+        const ActivityRecord record = a;
+        day.push_back(record);
+        t = effectiveEnd(record) + static_cast<double>(random() % 8);
+    }
+    return day;
+}
+
+void BM_BusyDayBlocksChaptersLayout(benchmark::State& state) {
+    const std::vector<ActivityRecord> day = busyDay();
+    for (auto _ : state) {
+        std::vector<TimelineBlock> blocks = computeBlocks(day, 0, true);
+        std::vector<TimelineChapter> chapters = computeChapters(day, 0, true);
+        std::vector<PositionedChapter> positioned = layoutChapters(chapters, kDayStart);
+        benchmark::DoNotOptimize(blocks.data());
+        benchmark::DoNotOptimize(positioned.data());
+    }
+    const auto chapters = computeChapters(day, 0, true);
+    state.counters["blocks"] = static_cast<double>(computeBlocks(day, 0, true).size());
+    state.counters["chapters"] = static_cast<double>(chapters.size());
+}
+BENCHMARK(BM_BusyDayBlocksChaptersLayout)->Unit(benchmark::kMicrosecond);
+
+// `count` chapters of 1 to 20 minutes spread over the day with an away span every tenth, placed by
+// passes 1 and 2: many boxes at their minimum height, both lanes in use.
+std::vector<PrePlaced> placedChapters(std::int64_t count) {
+    std::mt19937 random(static_cast<unsigned>(count));
+    std::vector<TimelineChapter> chapters;
+    const double step = 86400.0 / static_cast<double>(count);
+    for (std::int64_t i = 0; i < count; ++i) {
+        const Date start = kDayStart + static_cast<double>(i) * step;
+        const std::int64_t seconds = 60 + static_cast<std::int64_t>(random() % 1140);
+        chapters.push_back(makeChapter(
+            {i % 10 == 9 ? ActivityBuilder::away(i, start, seconds) : ActivityBuilder(i, start, seconds)}));
+    }
+    return placeChapters(chapters, kDayStart);
+}
+
+void BM_LayoutWidthPass(benchmark::State& state) {
+    const std::vector<PrePlaced> placed = placedChapters(state.range(0));
+    for (auto _ : state) {
+        std::vector<double> widths = chapterWidths(placed);
+        benchmark::DoNotOptimize(widths.data());
+    }
+    state.SetComplexityN(state.range(0));
+}
+// The worst case for the pairwise comparison: boxes one under the other in lane 0, none sharing its
+// rows, so no comparison can stop early.
+void BM_LayoutWidthPassNothingShared(benchmark::State& state) {
+    std::vector<PrePlaced> placed;
+    for (std::int64_t i = 0; i < state.range(0); ++i) {
+        placed.push_back({static_cast<std::size_t>(i), 24.0 * static_cast<double>(i), 22, 0, false});
+    }
+    for (auto _ : state) {
+        std::vector<double> widths = chapterWidths(placed);
+        benchmark::DoNotOptimize(widths.data());
+    }
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(BM_LayoutWidthPassNothingShared)
+    ->Arg(100)
+    ->Arg(250)
+    ->Arg(500)
+    ->Arg(1000)
+    ->Arg(2000)
+    ->Unit(benchmark::kMicrosecond)
+    ->Complexity();
+
+BENCHMARK(BM_LayoutWidthPass)
+    ->Arg(100)
+    ->Arg(250)
+    ->Arg(500)
+    ->Arg(1000)
+    ->Arg(2000)
+    ->Unit(benchmark::kMicrosecond)
+    ->Complexity();
+
+}  // namespace
+}  // namespace larkspan

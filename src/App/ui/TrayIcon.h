@@ -1,0 +1,49 @@
+// The tray icon: draws the status title as an icon with its full text in the tooltip, toggles the
+// popover on a left click and offers the context menu on a right click. A tray host may appear
+// after the application (at login): until one does the icon waits, and it shows once a host exists.
+#pragma once
+
+#include <QMenu>
+#include <QObject>
+#include <QSystemTrayIcon>
+#include <QTimer>
+
+#include "App/StatusTitle.h"
+#include "App/ui/TrayIconPainter.h"
+
+namespace larkspan {
+
+class TrayIcon final : public QObject {
+    Q_OBJECT
+public:
+    explicit TrayIcon(QObject* parent = nullptr);
+
+    void update(const StatusTitle& title);
+    bool isShown() const { return icon_.isVisible(); }
+    // Where the icon sits on screen; empty when the tray does not tell.
+    QRect geometry() const { return icon_.geometry(); }
+    const QMenu& menu() const { return menu_; }
+
+    // The menu's entries for a pending count, rebuilt each time the menu opens.
+    static QStringList menuTitles(qint64 pendingCount);
+
+signals:
+    void popoverToggleRequested();
+    void openDashboardRequested();
+    void quitRequested();
+    // A host appeared after start-up and the icon is now shown; emitted once.
+    void trayAppeared();
+
+private:
+    void rebuildMenu();
+    void showWhenHostExists();
+
+    QSystemTrayIcon icon_;
+    QMenu menu_;
+    QTimer hostWatch_;
+    TrayIconContent shownContent_;
+    qint64 pendingCount_ = 0;
+    bool reportedNoHost_ = false;
+};
+
+}  // namespace larkspan

@@ -1,0 +1,158 @@
+// Opening the store and the helpers every statement runs on. The default file lies in the user's
+// XDG data folder; the connection is configured for concurrent use from the store queue and the
+// few callers that read or delete on their own thread.
+#include <pwd.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <mutex>
+#include <stdexcept>
+#include <vector>
+
+#include "Data/Database.h"
+
+namespace larkspan {
+namespace {
+
+// SQLite must run in serialized mode before the first connection opens. The library's default is
+// usually serialized already; sqlite3_config fails harmlessly when SQLite has been initialised by
+// someone else, and openDB checks the mode the connection actually got.
+void requestSerializedMode() {
+    static std::once_flag once;
+    std::call_once(once, [] {
+        if (sqlite3_threadsafe() != 0)
+            sqlite3_config(SQLITE_CONFIG_SERIALIZED);
+    });
+}
+
+// $XDG_DATA_HOME when set to an absolute path (the XDG rule: relative values are ignored), else
+// ~/.local/share with the home folder from $HOME or the password database.
+std::filesystem::path userDataFolder() {
+    const char* xdg = std::getenv("XDG_DATA_HOME");
+    if (xdg != nullptr && xdg[0] == '/')
+        return xdg;
+    std::string home;
+    if (const char* env = std::getenv("HOME"); env != nullptr && env[0] != '\0') {
+        home = env;
+    } else {
+        std::vector<char> buffer(16384);
+        passwd entry{};
+        passwd* found = nullptr;
+        if (getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &found) == 0 && found != nullptr) {
+            home = found->pw_dir;
+        }
+    }
+    if (home.empty())
+        throw std::runtime_error("no home folder for the data folder");
+    return std::filesystem::path(home) / ".local" / "share";
+}
+
+// The program has no mode without a store: any failure to open, migrate or seed ends it here.
+Database* openSharedDatabase() {
+    std::string failure;
+    try {
+        const std::filesystem::path folder = userDataFolder() / "Larkspan";
+        std::filesystem::create_directories(folder);
+        return new Database(folder / "tracker.db");
+    } catch (const std::exception& error) {
+        failure = error.what();
+    }
+    std::fprintf(stderr, "Database init failed: %s\n", failure.c_str());
+    std::fflush(stderr);
+    std::exit(EXIT_FAILURE);
+}
+
+}  // namespace
+
+Database& Database::shared() {
+    // Lives until the process ends, like the connection: nothing is torn down at exit.
+    static Database* const instance = openSharedDatabase();
+    return *instance;
+}
+
+Database::Database(const std::filesystem::path& path) {
+    openDB(path);
+    // WAL with NORMAL sync: commits need no fsync of their own, and a crash loses at most the last
+    // commits, never consistency. The cache is bounded at 4,000 KiB (negative values count KiB).
+    exec("PRAGMA journal_mode=WAL");
+    exec("PRAGMA foreign_keys=ON");
+    exec("PRAGMA synchronous=NORMAL");
+    exec("PRAGMA cache_size=-4000");
+    migrate();
+    seedCategories();
+}
+
+void Database::openDB(const std::filesystem::path& path) {
+    requestSerializedMode();
+    sqlite3* connection = nullptr;
+    const int result = sqlite3_open(path.c_str(), &connection);
+    db_.reset(connection);  // a handle comes back even on failure and must be closed
+    if (result != SQLITE_OK)
+        throw DBError(DBError::Kind::openFailed, errMsg());
+    // Only serialized connections carry a mutex of their own.
+    if (sqlite3_db_mutex(db_.get()) == nullptr) {
+        throw DBError(DBError::Kind::openFailed, "SQLite is not in serialized threading mode");
+    }
+}
+
+bool Database::exec(const std::string& sql) {
+    char* error = nullptr;
+    const int result = sqlite3_exec(db_.get(), sql.c_str(), nullptr, nullptr, &error);
+    if (result == SQLITE_OK)
+        return true;
+    const std::string text = error != nullptr ? error : "unknown";
+    sqlite3_free(error);
+    throw DBError(DBError::Kind::execFailed, text);
+}
+
+void Database::queryRows(const std::string& sql, const Binder& bind, const RowReader& each) {
+    queue_.sync([&] {
+        Statement statement(db_.get(), sql);
+        if (!statement)
+            return;
+        if (bind)
+            bind(statement.get());
+        while (sqlite3_step(statement.get()) == SQLITE_ROW)
+            each(statement.get());
+    });
+}
+
+void Database::runOnQueue(const std::function<void()>& work) {
+    std::optional<DBError::Kind> kind;
+    std::string message;
+    queue_.sync([&] {
+        try {
+            work();
+        } catch (const DBError& error) {
+            kind = error.kind();
+            message = error.what();
+        }
+    });
+    if (kind)
+        throw DBError(*kind, message);
+}
+
+void Database::execDiscardingError(const std::string& sql) {
+    queue_.sync([&] {
+        try {
+            exec(sql);
+        } catch (const DBError&) {
+            // Writes of this kind fail silently by design; the row keeps its old state.
+        }
+    });
+}
+
+std::optional<std::string> Database::string(sqlite3_stmt* stmt, int column) {
+    const char* text = columnText(stmt, column);
+    if (text == nullptr)
+        return std::nullopt;
+    return std::string(text);
+}
+
+std::string Database::errMsg() const {
+    return db_ ? sqlite3_errmsg(db_.get()) : "unknown";
+}
+
+}  // namespace larkspan

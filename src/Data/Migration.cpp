@@ -1,0 +1,136 @@
+// The schema, brought up to date on every start, and the first filling of the category catalogue.
+//
+// There is no schema version. Every step is safe to repeat: CREATE statements say IF NOT EXISTS,
+// and the two columns added after the first release are added by an ALTER whose duplicate-column
+// failure on an up-to-date database is ignored. A second start therefore changes nothing.
+//
+// Databases made before activities had is_manual (manual entries) and notes (the user's notes) gain
+// both columns here; their rows read is_manual 0 and notes NULL.
+#include "Data/Database.h"
+#include "Data/SqlText.h"
+
+namespace larkspan {
+namespace {
+
+const char* const kCreateCategories =
+    "CREATE TABLE IF NOT EXISTS categories (\n"
+    "    id INTEGER PRIMARY KEY AUTOINCREMENT,\n"
+    "    name TEXT NOT NULL UNIQUE,\n"
+    "    color_hex TEXT NOT NULL DEFAULT '#AEAEB2',\n"
+    "    icon TEXT NOT NULL DEFAULT '\u2753',\n"
+    "    productivity INTEGER NOT NULL DEFAULT 0,\n"
+    "    parent_id INTEGER REFERENCES categories(id),\n"
+    "    is_system INTEGER NOT NULL DEFAULT 0,\n"
+    "    sort_order INTEGER NOT NULL DEFAULT 999\n"
+    ");";
+
+const char* const kCreateActivities =
+    "CREATE TABLE IF NOT EXISTS activities (\n"
+    "    id INTEGER PRIMARY KEY AUTOINCREMENT,\n"
+    "    app_name TEXT NOT NULL,\n"
+    "    bundle_id TEXT,\n"
+    "    window_title TEXT,\n"
+    "    url TEXT,\n"
+    "    url_domain TEXT,\n"
+    "    category_id INTEGER REFERENCES categories(id),\n"
+    "    confidence REAL NOT NULL DEFAULT 1.0,\n"
+    "    needs_approval INTEGER NOT NULL DEFAULT 0,\n"
+    "    is_approved INTEGER NOT NULL DEFAULT 0,\n"
+    "    start_time REAL NOT NULL,\n"
+    "    end_time REAL,\n"
+    "    duration_seconds INTEGER NOT NULL DEFAULT 0,\n"
+    "    created_at REAL NOT NULL DEFAULT (unixepoch())\n"
+    ");";
+
+// idx_act_start serves every read by time range, idx_act_approval the pending count.
+const char* const kActivityIndexes[] = {
+    "CREATE INDEX IF NOT EXISTS idx_act_start ON activities(start_time);",
+    "CREATE INDEX IF NOT EXISTS idx_act_app ON activities(app_name);",
+    "CREATE INDEX IF NOT EXISTS idx_act_approval ON activities(needs_approval, is_approved);",
+};
+
+// Kept for databases that have it; nothing reads or writes it.
+const char* const kCreateApprovalQueue =
+    "CREATE TABLE IF NOT EXISTS approval_queue (\n"
+    "    id INTEGER PRIMARY KEY AUTOINCREMENT,\n"
+    "    activity_id INTEGER NOT NULL REFERENCES activities(id),\n"
+    "    suggested_category_id INTEGER REFERENCES categories(id),\n"
+    "    created_at REAL NOT NULL DEFAULT (unixepoch()),\n"
+    "    resolved_at REAL,\n"
+    "    resolved_category_id INTEGER REFERENCES categories(id),\n"
+    "    snoozed INTEGER NOT NULL DEFAULT 0\n"
+    ");";
+
+const char* const kCreateTodoItems =
+    "CREATE TABLE IF NOT EXISTS todo_items (\n"
+    "    id INTEGER PRIMARY KEY AUTOINCREMENT,\n"
+    "    title TEXT NOT NULL,\n"
+    "    pomodoro_count INTEGER NOT NULL DEFAULT 0,\n"
+    "    is_completed INTEGER NOT NULL DEFAULT 0,\n"
+    "    created_date TEXT NOT NULL,\n"
+    "    sort_order INTEGER NOT NULL DEFAULT 0\n"
+    ");";
+
+const char* const kCreateTodoIndex = "CREATE INDEX IF NOT EXISTS idx_todo_date ON todo_items(created_date);";
+
+const char* const kCreateDailyPomoCounts =
+    "CREATE TABLE IF NOT EXISTS daily_pomo_counts (\n"
+    "    date TEXT PRIMARY KEY,\n"
+    "    count INTEGER NOT NULL DEFAULT 0\n"
+    ");";
+
+const char* const kCreateLearnedRules =
+    "CREATE TABLE IF NOT EXISTS learned_rules (\n"
+    "    id INTEGER PRIMARY KEY AUTOINCREMENT,\n"
+    "    rule_type TEXT NOT NULL,\n"
+    "    rule_key TEXT NOT NULL,\n"
+    "    category_id INTEGER NOT NULL REFERENCES categories(id),\n"
+    "    updated_at REAL NOT NULL DEFAULT (unixepoch()),\n"
+    "    UNIQUE(rule_type, rule_key)\n"
+    ");";
+
+}  // namespace
+
+void Database::migrate() {
+    exec(kCreateCategories);
+    exec(kCreateActivities);
+    for (const char* index : kActivityIndexes)
+        exec(index);
+    exec(kCreateApprovalQueue);
+    addColumnIfMissing("activities", "is_manual", "INTEGER NOT NULL DEFAULT 0");
+    addColumnIfMissing("activities", "notes", "TEXT");
+    exec(kCreateTodoItems);
+    exec(kCreateTodoIndex);
+    exec(kCreateDailyPomoCounts);
+    exec(kCreateLearnedRules);
+}
+
+// Does not look at the table first: the ALTER itself is the test, and its duplicate-column failure
+// on an up-to-date database is the expected outcome.
+void Database::addColumnIfMissing(const std::string& table, const std::string& column,
+                                  const std::string& definition) {
+    try {
+        exec("ALTER TABLE " + table + " ADD COLUMN " + column + " " + definition);
+    } catch (const DBError&) {
+    }
+}
+
+// Seeds only a database without any category, so categories the user deleted never come back.
+void Database::seedCategories() {
+    const std::int64_t count = query("SELECT COUNT(*) FROM categories", nullptr, [](sqlite3_stmt* stmt) {
+        return sqlite3_step(stmt) == SQLITE_ROW ? sqlite3_column_int64(stmt, 0) : std::int64_t{0};
+    });
+    if (count != 0)
+        return;
+    for (const Category& category : Category::seeded()) {
+        exec(
+            "INSERT OR IGNORE INTO categories (id, name, color_hex, icon, productivity, is_system, "
+            "sort_order)\n"
+            "VALUES (" +
+            sqlNumber(category.id) + ", '" + escapeQuotes(category.name) + "', '" +
+            escapeQuotes(category.colorHex) + "', '" + escapeQuotes(category.icon) + "', " +
+            sqlNumber(rawValue(category.productivity)) + ", 1, " + sqlNumber(category.sortOrder) + ");");
+    }
+}
+
+}  // namespace larkspan

@@ -1,0 +1,71 @@
+// Totals for the screens: a local day, the days of a month, the most visited domains. Days and
+// months are summed in memory from the activity and category reads; nothing is cached, so a
+// summary always reflects what is stored (the running session with its latest heartbeat).
+#include <unordered_map>
+
+#include "Data/Database.h"
+#include "Data/LocalDay.h"
+#include "Data/SqlText.h"
+
+namespace larkspan {
+
+//   day of `date`     |00:00 ...................................... 00:00|   both ends inclusive
+//   activities          [==A==]      [====B====]               [===C=====|=====]  C counts whole here
+// An activity counts whole on the day it starts, even when it runs past midnight. One starting
+// exactly at the next midnight belongs to both days.
+DaySummary Database::daySummary(Date date) {
+    DaySummary summary;
+    summary.date = date;
+    const Date start = startOfLocalDay(date);
+    const std::vector<ActivityRecord> activities = fetchActivities(start, startOfNextLocalDay(date));
+
+    std::unordered_map<std::int64_t, Productivity> productivity;
+    for (const Category& category : fetchCategories())
+        productivity[category.id] = category.productivity;
+
+    for (const ActivityRecord& activity : activities) {
+        const std::int64_t seconds = activity.durationSeconds;
+        if (seconds <= 0)
+            continue;
+        const std::int64_t category = activity.categoryID.value_or(category_id::other);
+        summary.totalSeconds += seconds;
+        summary.byCategory[category] += seconds;
+        const auto found = productivity.find(category);
+        if (found != productivity.end() && found->second == Productivity::productive) {
+            summary.productiveSeconds += seconds;
+        }
+    }
+    return summary;
+}
+
+std::vector<DaySummary> Database::monthSummaries(int year, int month) {
+    std::vector<DaySummary> days;
+    const int length = daysInMonth(year, month);
+    if (length == 0 || !localMidnight(year, month, 1))
+        return days;
+    days.reserve(static_cast<std::size_t>(length));
+    for (int day = 1; day <= length; ++day) {
+        if (const auto midnight = localMidnight(year, month, day))
+            days.push_back(daySummary(*midnight));
+    }
+    return days;
+}
+
+std::vector<DomainTotal> Database::fetchTopDomains(Date from, Date to, int limit) {
+    std::vector<DomainTotal> domains;
+    queryRows(
+        "SELECT url_domain, SUM(duration_seconds) as total\nFROM activities\n"
+        "WHERE start_time >= ? AND start_time <= ? AND url_domain IS NOT NULL AND url_domain != ''\n"
+        "GROUP BY url_domain ORDER BY total DESC LIMIT " +
+            sqlNumber(limit),
+        [&](sqlite3_stmt* stmt) {
+            sqlite3_bind_double(stmt, 1, from);
+            sqlite3_bind_double(stmt, 2, to);
+        },
+        [&](sqlite3_stmt* stmt) {
+            domains.push_back(DomainTotal{string(stmt, 0).value_or(""), sqlite3_column_int(stmt, 1)});
+        });
+    return domains;
+}
+
+}  // namespace larkspan

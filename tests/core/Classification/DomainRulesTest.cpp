@@ -1,0 +1,199 @@
+#include "Classification/DomainRules.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <optional>
+#include <string>
+
+#include "ClassificationPrinters.h"
+
+namespace larkspan {
+namespace {
+
+using std::nullopt;
+using Result = std::optional<ClassificationResult>;
+
+std::string upper(std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](char c) { return c >= 'a' && c <= 'z' ? c - 32 : c; });
+    return text;
+}
+
+std::string lower(std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? c + 32 : c; });
+    return text;
+}
+
+TEST(DomainRules, EachGroupGivesItsCategoryAndConfidence) {
+    struct Expected {
+        std::int64_t category;
+        double confidence;
+        const char* sample;  // a real-world domain of the group
+    };
+    const Expected expected[] = {
+        {1, 0.92, "github.com"},    {1, 0.88, "stackoverflow.com"},   {9, 0.88, "claude.ai"},
+        {4, 0.95, "coursera.org"},  {10, 0.80, "en.wikipedia.org"},   {5, 0.95, "mail.google.com"},
+        {6, 0.92, "app.slack.com"}, {7, 0.90, "calendar.google.com"}, {3, 0.85, "docs.google.com"},
+        {8, 0.90, "figma.com"},     {16, 0.97, "netflix.com"},        {17, 0.88, "reddit.com"},
+        {18, 0.88, "amazon.in"},    {11, 0.72, "linkedin.com"},
+    };
+    const auto groups = domainRuleGroups();
+    ASSERT_EQ(groups.size(), std::size(expected));
+    for (std::size_t i = 0; i < groups.size(); ++i) {
+        SCOPED_TRACE("group " + std::to_string(i + 1));
+        EXPECT_EQ(groups[i].categoryID, expected[i].category);
+        EXPECT_EQ(groups[i].confidence, expected[i].confidence);
+        EXPECT_EQ(classifyByDomain(expected[i].sample, nullopt),
+                  (ClassificationResult{expected[i].category, expected[i].confidence}));
+    }
+}
+
+TEST(DomainRules, EveryPatternReachesItsOwnGroupInAnyCaseAndOnSubdomains) {
+    // No pattern is shadowed by an earlier group: moving a group ahead of another breaks this.
+    for (const DomainRuleGroup& group : domainRuleGroups()) {
+        const ClassificationResult expected{group.categoryID, group.confidence};
+        for (std::string_view pattern : group.patterns) {
+            const std::string p(pattern);
+            EXPECT_EQ(p, lower(p)) << "patterns are lower case";
+            EXPECT_EQ(classifyByDomain(p, nullopt), expected) << p;
+            EXPECT_EQ(classifyByDomain(upper(p), nullopt), expected) << p;
+            EXPECT_EQ(classifyByDomain("eu." + p, "Title"), expected) << p;
+        }
+    }
+}
+
+TEST(DomainRules, MatchingIsByEndingAndEarlierGroupsWin) {
+    const std::pair<std::string, Result> cases[] = {
+        // Netflix, HBO Max and Max end in "x.com" but stand in an earlier group than X.
+        {"netflix.com", ClassificationResult{16, 0.97}},
+        {"hbomax.com", ClassificationResult{16, 0.97}},
+        {"max.com", ClassificationResult{16, 0.97}},
+        {"x.com", ClassificationResult{17, 0.88}},
+        {"dropbox.com", ClassificationResult{17, 0.88}},  // ends in "x.com": no boundary at a dot
+        {"dropbox.com/paper", ClassificationResult{3, 0.85}},
+        {"outlook.office.com", ClassificationResult{5, 0.95}},
+        {"www.office.com", ClassificationResult{3, 0.85}},
+        {"linkedin.com/learning", ClassificationResult{4, 0.95}},
+        {"www.linkedin.com", ClassificationResult{11, 0.72}},
+        {"apple.com/apple-tv-plus", ClassificationResult{16, 0.97}},
+        {"notgithub.com", ClassificationResult{1, 0.92}},
+        {"corp.webmail.", ClassificationResult{5, 0.95}},
+        // Only the ending counts: a service in the middle of the text, or a longer ending, is no match.
+        {"github.com.example.org", nullopt},
+        {"webmail.example.org", nullopt},
+        {"linkedin.com/learning/course", nullopt},
+        {"apple.com", nullopt},
+        {"github.co", nullopt},
+        {"example.org", nullopt},
+        {"", nullopt},
+        {".", nullopt},
+    };
+    for (const auto& [domain, expected] : cases) {
+        EXPECT_EQ(classifyByDomain(domain, nullopt), expected) << domain;
+    }
+}
+
+TEST(DomainRules, YouTubeIsJudgedByTheVideoTitle) {
+    const ClassificationResult learning{4, 0.58}, titled{16, 0.45}, untitled{16, 0.55};
+    struct Case {
+        const char* domain;
+        std::optional<std::string> title;
+        ClassificationResult expected;
+    };
+    const Case cases[] = {
+        {"youtube.com", "YouTube", untitled},
+        {"YOUTUBE.COM", "YouTube", untitled},
+        {"YouTube.com", nullopt, untitled},
+        {"m.youtube.com", "", untitled},
+        {"youtube.com", "youtube", titled},  // only the exact title is YouTube's own page
+        {"youtube.com", "Funny cat fails compilation", titled},
+        {"youtube.com", "Rust tutorial for beginners", learning},
+        {"youtube.com", "Funny coding interview", titled},  // P 1, N 2
+        {"youtube.com", "Gaming history", titled},          // P 1, N 1: a tie is not learning
+        {"youtu.be", "Linear algebra lecture 3", learning},
+        {"music.youtube.com", "Song", titled},  // any subdomain takes this branch
+        {"www.youtube.com", "MIT lecture", learning},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(classifyByDomain(c.domain, c.title), c.expected)
+            << c.domain << " | " << c.title.value_or("<absent>");
+    }
+    // Look-alikes are ordinary unknown domains.
+    for (const char* domain : {"notyoutube.com", "youtube.co", "m.youtu.be", "youtube.com.example.org"}) {
+        EXPECT_EQ(classifyByDomain(domain, "Rust tutorial"), nullopt) << domain;
+    }
+}
+
+TEST(VideoTitle, KeywordListsHaveTheirSizes) {
+    EXPECT_EQ(educationalTitleKeywords().size(), 36u);
+    EXPECT_EQ(entertainmentTitleKeywords().size(), 16u);
+}
+
+TEST(VideoTitle, EveryEducationalKeywordCountsOnItsOwn) {
+    // Two keywords that hold another are paired with one entertainment keyword: they win only if
+    // both they and the shorter keyword count.
+    for (const char* keyword :
+         {"tutorial",        "course",      "learn ",      "how to",      "guide",      "explained",
+          "introduction to", "beginner",    "advanced ",   "lecture",     "university", "professor",
+          "conference",      "talk",        "keynote",     "workshop",    "bootcamp",   "in depth",
+          " review",         "breakdown",   "analysis",    "documentary", "ted",        " tips",
+          "coding",          "programming", "development", "engineering", "math",       "science",
+          "history",         "language",    "lesson",      "masterclass"}) {
+        EXPECT_TRUE(isEducationalVideoTitle(keyword)) << '"' << keyword << '"';
+        EXPECT_TRUE(isEducationalVideoTitle(upper(keyword))) << '"' << keyword << '"';
+    }
+    EXPECT_TRUE(isEducationalVideoTitle("crash course vlog"));
+    EXPECT_TRUE(isEducationalVideoTitle("full course vlog"));
+    EXPECT_FALSE(isEducationalVideoTitle("course vlog"));
+}
+
+TEST(VideoTitle, EveryEntertainmentKeywordCancelsOneEducationalKeyword) {
+    ASSERT_TRUE(isEducationalVideoTitle("lesson"));
+    for (const char* keyword :
+         {"funny", "meme", "prank", "vlog", "reaction", "trailer", "music video", "highlights", "fails",
+          "shorts", "podcast", "interview", "gaming", "gameplay", "let's play", "unboxing"}) {
+        EXPECT_FALSE(isEducationalVideoTitle(std::string("lesson ") + keyword)) << keyword;
+        EXPECT_FALSE(isEducationalVideoTitle(upper(std::string("lesson ") + keyword))) << keyword;
+    }
+}
+
+TEST(VideoTitle, KeywordsArePlainSubstringsCountedOnce) {
+    // Blanks belong to the keyword.
+    EXPECT_TRUE(isEducationalVideoTitle("Learn Rust"));
+    EXPECT_FALSE(isEducationalVideoTitle("Learning"));
+    EXPECT_FALSE(isEducationalVideoTitle("Advanced"));
+    EXPECT_FALSE(isEducationalVideoTitle("Review"));
+    EXPECT_TRUE(isEducationalVideoTitle("A review"));
+    EXPECT_FALSE(isEducationalVideoTitle("Tips"));
+    EXPECT_TRUE(isEducationalVideoTitle("Top tips"));
+    // Substrings inside longer words count.
+    EXPECT_TRUE(isEducationalVideoTitle("Most wanted"));
+    EXPECT_TRUE(isEducationalVideoTitle("Stalking"));
+    // An entry counts once however often it occurs.
+    EXPECT_FALSE(isEducationalVideoTitle("coding coding coding funny"));
+    EXPECT_FALSE(isEducationalVideoTitle("coding funny funny funny programming fails"));
+    EXPECT_TRUE(isEducationalVideoTitle("coding programming funny funny"));
+    EXPECT_FALSE(isEducationalVideoTitle(""));
+    EXPECT_FALSE(isEducationalVideoTitle("Cat video"));
+}
+
+TEST(VideoTitle, AnyTextIsSafe) {
+    const std::string huge(100000, 'a');
+    EXPECT_TRUE(isEducationalVideoTitle(huge + " tutorial"));
+    EXPECT_FALSE(isEducationalVideoTitle(huge + " tutorial funny"));
+    EXPECT_TRUE(isEducationalVideoTitle("\U0001F525 Python tutorial \U0001F525"));
+    EXPECT_TRUE(isEducationalVideoTitle("\u0645\u062D\u0627\u0636\u0631\u0629 lecture \u202Bmath\u202C"));
+    EXPECT_TRUE(isEducationalVideoTitle("\xFF\xC3( tutorial"));
+    EXPECT_FALSE(isEducationalVideoTitle(std::string("tuto\0rial", 9)));
+    EXPECT_FALSE(isEducationalVideoTitle(std::string("tutorial\0funny", 14)));  // NUL ends nothing
+    EXPECT_EQ(classifyByDomain(std::string("youtube.com\0", 12), "x"), nullopt);
+    EXPECT_EQ(classifyByDomain(huge + ".github.com", nullopt), (ClassificationResult{1, 0.92}));
+    EXPECT_EQ(classifyByDomain(huge, nullopt), nullopt);
+    EXPECT_EQ(classifyByDomain("\u0645\u062B\u0627\u0644.github.com", nullopt),
+              (ClassificationResult{1, 0.92}));
+}
+
+}  // namespace
+}  // namespace larkspan

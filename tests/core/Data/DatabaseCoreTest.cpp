@@ -1,0 +1,180 @@
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <random>
+
+#include "Data/Database.h"
+#include "SqliteFile.h"
+#include "TempDir.h"
+
+namespace larkspan {
+namespace {
+
+using test::SqliteFile;
+using test::TempDir;
+
+// Everything a start could change: the schema with its version counter, and every row of the
+// tables start-up writes to.
+std::string startUpState(const std::filesystem::path& file) {
+    SqliteFile raw(file);
+    return std::to_string(raw.integer("PRAGMA schema_version")) + "|" +
+           raw.text(
+               "SELECT group_concat(type || name || ifnull(sql, ''), ';') FROM "
+               "(SELECT * FROM sqlite_master ORDER BY name)") +
+           "|" +
+           raw.text(
+               "SELECT group_concat(id || name || color_hex || icon || productivity || is_system || "
+               "sort_order, ';') FROM categories");
+}
+
+TEST(DatabaseCore, FreshFileGetsTheSchemaTheSeededCatalogueAndWal) {
+    TempDir dir;
+    Database db(dir / "tracker.db");
+
+    EXPECT_EQ(db.fetchCategories(), Category::seeded());
+    EXPECT_EQ(db.query("PRAGMA journal_mode", nullptr,
+                       [](sqlite3_stmt* s) {
+                           return sqlite3_step(s) == SQLITE_ROW ? *Database::string(s, 0) : "";
+                       }),
+              "wal");
+    SqliteFile raw(dir / "tracker.db");
+    EXPECT_EQ(
+        raw.text("SELECT group_concat(name, ' ') FROM (SELECT name FROM sqlite_master WHERE name NOT LIKE "
+                 "'sqlite_%' ORDER BY name)"),
+        "activities approval_queue categories daily_pomo_counts idx_act_app idx_act_approval idx_act_start "
+        "idx_todo_date learned_rules todo_items");
+    // Foreign keys are enforced: a rule may not name a category that does not exist.
+    EXPECT_THROW(
+        db.exec("INSERT INTO learned_rules (rule_type, rule_key, category_id) VALUES ('app_name', 'x', 99)"),
+        DBError);
+}
+
+TEST(DatabaseCore, SecondStartChangesNothingAndDeletedCategoriesStayDeleted) {
+    TempDir dir;
+    {
+        Database db(dir / "tracker.db");
+        db.deleteCategory(20);
+    }
+    const std::string before = startUpState(dir / "tracker.db");
+    { Database again(dir / "tracker.db"); }
+    EXPECT_EQ(startUpState(dir / "tracker.db"), before);
+    EXPECT_EQ(Database(dir / "tracker.db").fetchCategories().size(), 20u);
+}
+
+TEST(DatabaseCore, OriginalActivitiesTableGainsManualAndNotesColumns) {
+    TempDir dir;
+    {
+        SqliteFile raw(dir / "tracker.db");
+        raw.exec(
+            "CREATE TABLE activities (id INTEGER PRIMARY KEY AUTOINCREMENT, app_name TEXT NOT NULL, "
+            "bundle_id TEXT, "
+            "window_title TEXT, url TEXT, url_domain TEXT, category_id INTEGER, confidence REAL NOT NULL "
+            "DEFAULT 1.0, "
+            "needs_approval INTEGER NOT NULL DEFAULT 0, is_approved INTEGER NOT NULL DEFAULT 0, start_time "
+            "REAL NOT "
+            "NULL, end_time REAL, duration_seconds INTEGER NOT NULL DEFAULT 0, created_at REAL NOT NULL "
+            "DEFAULT "
+            "(unixepoch()));"
+            "INSERT INTO activities (app_name, start_time, end_time, duration_seconds) VALUES ('Terminal', "
+            "100.5, "
+            "160.5, 60);");
+    }
+    Database db(dir / "tracker.db");
+
+    const auto old = db.fetchActivity(1);
+    ASSERT_TRUE(old.has_value());
+    EXPECT_EQ(old->appName, "Terminal");
+    EXPECT_FALSE(old->isManual);
+    EXPECT_EQ(old->notes, std::nullopt);
+    SqliteFile raw(dir / "tracker.db");
+    EXPECT_EQ(raw.text("SELECT is_manual FROM activities WHERE id=1"), "0");
+    EXPECT_EQ(raw.text("SELECT notes FROM activities WHERE id=1"), "<NULL>");
+    // New rows use both columns.
+    ActivityRecord manual = ActivityRecord::manual(200, 260, 3, "Reading", std::string("chapter 4"));
+    const auto id = db.insertActivity(manual);
+    manual.id = id;
+    EXPECT_EQ(db.fetchActivity(id), manual);
+}
+
+TEST(DatabaseCore, EmptiedCategoriesAreSeededAgainWithTheirIds) {
+    TempDir dir;
+    { Database db(dir / "tracker.db"); }
+    SqliteFile(dir / "tracker.db").exec("DELETE FROM categories");
+    Database db(dir / "tracker.db");
+    EXPECT_EQ(db.fetchCategories(), Category::seeded());
+}
+
+TEST(DatabaseCore, BooleanColumnsReadTrueOnlyForExactlyOne) {
+    TempDir dir;
+    Database db(dir / "tracker.db");
+    ActivityRecord record;
+    record.appName = "Editor";
+    record.needsApproval = record.isApproved = record.isManual = true;
+    const auto id = db.insertActivity(record);
+    const auto todo = db.insertTodo("write", 0);
+    SqliteFile raw(dir / "tracker.db");
+    // 2, -1 and 2^32 + 1 (whose low 32 bits are 1) are all false.
+    for (const char* value : {"2", "-1", "4294967297"}) {
+        SCOPED_TRACE(value);
+        raw.exec(std::string("UPDATE activities SET needs_approval=") + value + ", is_approved=" + value +
+                 ", is_manual=" + value + " WHERE id=" + std::to_string(id) +
+                 "; UPDATE todo_items SET is_completed=" + value +
+                 "; UPDATE categories SET is_system=" + value + " WHERE id=1");
+        const auto read = db.fetchActivity(id);
+        ASSERT_TRUE(read.has_value());
+        EXPECT_FALSE(read->needsApproval);
+        EXPECT_FALSE(read->isApproved);
+        EXPECT_FALSE(read->isManual);
+        EXPECT_FALSE(db.fetchTodayTodos(0).at(0).isCompleted);
+        EXPECT_FALSE(db.fetchCategories().at(0).isSystem);
+    }
+    raw.exec("UPDATE todo_items SET is_completed=1");
+    EXPECT_TRUE(db.fetchTodayTodos(0).at(0).isCompleted);
+    EXPECT_EQ(db.fetchTodayTodos(0).at(0).id, todo);
+}
+
+TEST(DatabaseCore, HelpersReportSqliteErrorsByKind) {
+    TempDir dir;
+    Database db(dir / "tracker.db");
+    try {
+        db.exec("SELEC 1");
+        ADD_FAILURE() << "exec of bad SQL succeeded";
+    } catch (const DBError& error) {
+        EXPECT_EQ(error.kind(), DBError::Kind::execFailed);
+        EXPECT_NE(std::string(error.what()).find("syntax error"), std::string::npos) << error.what();
+    }
+    try {
+        db.query("SELECT missing FROM nowhere", nullptr, [](sqlite3_stmt*) { return 0; });
+        ADD_FAILURE() << "query of a missing table succeeded";
+    } catch (const DBError& error) {
+        EXPECT_EQ(error.kind(), DBError::Kind::prepareFailed);
+        EXPECT_STREQ(error.what(), "no such table: nowhere");
+    }
+    int rows = 0;
+    db.queryRows("SELECT missing FROM nowhere", nullptr, [&](sqlite3_stmt*) { ++rows; });
+    EXPECT_EQ(rows, 0);
+}
+
+TEST(DatabaseCore, UnopenableOrDamagedFilesThrowInsteadOfCrashing) {
+    TempDir dir;
+    // A folder where the file should be.
+    std::filesystem::create_directory(dir / "folder.db");
+    try {
+        Database db(dir / "folder.db");
+        ADD_FAILURE() << "opened a folder";
+    } catch (const DBError& error) {
+        EXPECT_EQ(error.kind(), DBError::Kind::openFailed);
+    }
+    // Random bytes: SQLite opens lazily, so the first pragma is what fails.
+    std::mt19937 random(7);
+    std::ofstream(dir / "noise.db", std::ios::binary) << [&] {
+        std::string bytes(64 * 1024, '\0');
+        for (char& byte : bytes)
+            byte = static_cast<char>(random());
+        return bytes;
+    }();
+    EXPECT_THROW(Database(dir / "noise.db"), DBError);
+}
+
+}  // namespace
+}  // namespace larkspan

@@ -1,0 +1,435 @@
+#include "Focus/PomodoroTimer.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <ctime>
+#include <limits>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "ManualClock.h"
+#include "ManualTimerHub.h"
+#include "MemoryKeyValueStore.h"
+#include "RecordingSoundPlayer.h"
+
+namespace larkspan {
+namespace {
+
+using test::ManualClock;
+using test::ManualTimerHub;
+using test::MemoryKeyValueStore;
+using test::RecordingSoundPlayer;
+using Mode = PomodoroTimer::Mode;
+using RunState = PomodoroTimer::RunState;
+using Sounds = std::vector<std::string>;
+
+// A timer's seams, all fakes; ticks come only as the test moves the hub.
+struct Rig {
+    ManualClock clock;
+    ManualTimerHub hub{clock};
+    MemoryKeyValueStore defaults;
+    RecordingSoundPlayer sounds;
+
+    // A timer made now; a second one over the same defaults stands for a restart.
+    std::unique_ptr<PomodoroTimer> make() {
+        return std::make_unique<PomodoroTimer>(clock, defaults, sounds, hub);
+    }
+
+    // Starts the current session and lets its ticks run it to the end.
+    void runToEnd(PomodoroTimer& timer) {
+        timer.start();
+        hub.advance(static_cast<double>(timer.secondsLeft.get()) + 1);
+    }
+};
+
+// Local days are taken in a zone three hours east of UTC, so a day that is wrongly taken in UTC
+// shows up around local midnight.
+class PomodoroTimerTest : public ::testing::Test, protected Rig {
+protected:
+    void SetUp() override {
+        if (const char* tz = std::getenv("TZ"))
+            previousTZ_ = tz;
+        setenv("TZ", "<+03>-3", 1);
+        tzset();
+    }
+    void TearDown() override {
+        if (previousTZ_) {
+            setenv("TZ", previousTZ_->c_str(), 1);
+        } else {
+            unsetenv("TZ");
+        }
+        tzset();
+    }
+
+    static Date localMoment(int year, int month, int day, int hour, int minute) {
+        std::tm local{};
+        local.tm_year = year - 1900;
+        local.tm_mon = month - 1;
+        local.tm_mday = day;
+        local.tm_hour = hour;
+        local.tm_min = minute;
+        local.tm_isdst = -1;
+        return static_cast<Date>(std::mktime(&local));
+    }
+
+private:
+    std::optional<std::string> previousTZ_;
+};
+
+TEST_F(PomodoroTimerTest, EveryTransitionOfTheStateTable) {
+    enum class Event { start, pause, stop, skip, switchToLongBreak, tick, tickToZero };
+    struct Row {
+        const char* name;
+        RunState from;
+        Mode fromMode;
+        Event event;
+        RunState to;
+        Mode mode;
+        std::int64_t todayCount;  // 2 when the count was not reloaded, 7 when it was
+        std::int64_t sessionInCycle;
+        Sounds sounds;
+    };
+    using enum RunState;
+    using enum Mode;
+    using enum Event;
+    // clang-format off
+    const Row rows[] = {
+        {"start from idle",            idle,    focus,      start,             running, focus,      7, 0, {"Tink"}},
+        {"resume",                     paused,  focus,      start,             running, focus,      7, 0, {"Tink"}},
+        {"start while running",        running, focus,      start,             running, focus,      2, 0, {}},
+        {"pause while running",        running, focus,      pause,             paused,  focus,      2, 0, {"Pop"}},
+        {"pause while idle",           idle,    focus,      pause,             idle,    focus,      2, 0, {}},
+        {"pause while paused",         paused,  focus,      pause,             paused,  focus,      2, 0, {}},
+        // stop and skip sound even from idle
+        {"stop while idle",            idle,    focus,      stop,              idle,    focus,      2, 0, {"Funk"}},
+        {"stop while running",         running, shortBreak, stop,              idle,    shortBreak, 2, 0, {"Funk"}},
+        {"stop while paused",          paused,  focus,      stop,              idle,    focus,      2, 0, {"Funk"}},
+        {"skip while idle",            idle,    focus,      skip,              idle,    shortBreak, 2, 0, {"Funk"}},
+        {"skip while running",         running, longBreak,  skip,              idle,    focus,      2, 0, {"Funk"}},
+        {"skip while paused",          paused,  shortBreak, skip,              idle,    focus,      2, 0, {"Funk"}},
+        {"switch while idle",          idle,    focus,      switchToLongBreak, idle,    longBreak,  2, 0, {}},
+        {"switch to the running mode", running, longBreak,  switchToLongBreak, idle,    longBreak,  2, 0, {}},
+        {"switch while paused",        paused,  focus,      switchToLongBreak, idle,    longBreak,  2, 0, {}},
+        {"tick with time left",        running, focus,      tick,              running, focus,      2, 0, {}},
+        {"focus runs out",             running, focus,      tickToZero,        idle,    shortBreak, 3, 1, {"Glass"}},
+        {"break runs out",             running, shortBreak, tickToZero,        idle,    focus,      2, 0, {"Ping"}},
+    };
+    // clang-format on
+
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        Rig rig;
+        rig.defaults.setText("pomo_date", PomodoroTimer::todayString(rig.clock));
+        rig.defaults.setInteger("pomo_count", 2);
+        auto timer = rig.make();
+        timer->switchMode(row.fromMode);
+        if (row.from != idle) {
+            timer->start();
+            rig.hub.advance(10);
+        }
+        if (row.from == paused)
+            timer->pause();
+        rig.sounds.played.clear();
+        rig.defaults.setInteger("pomo_count", 7);  // filed meanwhile; only a start reloads it
+
+        switch (row.event) {
+            case start:
+                timer->start();
+                break;
+            case pause:
+                timer->pause();
+                break;
+            case stop:
+                timer->stop();
+                break;
+            case skip:
+                timer->skip();
+                break;
+            case switchToLongBreak:
+                timer->switchMode(longBreak);
+                break;
+            case tick:
+                rig.hub.advance(1);
+                break;
+            case tickToZero:
+                rig.hub.advance(static_cast<double>(timer->secondsLeft.get()));
+                break;
+        }
+
+        EXPECT_EQ(timer->runState.get(), row.to);
+        EXPECT_EQ(timer->mode.get(), row.mode);
+        EXPECT_EQ(timer->todayCount.get(), row.todayCount);
+        EXPECT_EQ(timer->sessionInCycle.get(), row.sessionInCycle);
+        EXPECT_EQ(rig.sounds.played, row.sounds);
+        EXPECT_EQ(rig.hub.activeCount(), row.to == running ? 1U : 0U);
+        if (row.to == idle) {
+            EXPECT_EQ(timer->secondsLeft.get(), defaultMinutes(row.mode) * 60);
+        }
+    }
+}
+
+TEST_F(PomodoroTimerTest, StartWhileRunningKeepsTheSessionAndPlaysNoSound) {
+    auto timer = make();
+    timer->start();
+    hub.advance(10);
+    timer->start();
+    hub.advance(0.5);
+    EXPECT_EQ(timer->secondsLeft.get(), 1490);  // not restarted from the full duration
+    EXPECT_EQ(sounds.played, Sounds{"Tink"});
+    EXPECT_EQ(hub.activeCount(), 1U);
+}
+
+TEST_F(PomodoroTimerTest, PauseAndResumeKeepTheRemainderExactly) {
+    auto timer = make();
+    std::vector<std::int64_t> published;
+    auto subscription = timer->secondsLeft.subscribe([&](const std::int64_t& v) { published.push_back(v); });
+    timer->start();
+    hub.advance(266);
+    ASSERT_EQ(timer->secondsLeft.get(), 1234);
+    timer->pause();
+    hub.advance(1000);
+    EXPECT_EQ(timer->secondsLeft.get(), 1234);
+
+    timer->start();
+    published.clear();
+    hub.advance(0.5);  // the first tick computes the same remainder
+    hub.advance(0.5);
+    // Every tick publishes, an unchanged value too.
+    EXPECT_EQ(published, (std::vector<std::int64_t>{1234, 1233}));
+    EXPECT_EQ(sounds.played, (Sounds{"Tink", "Pop", "Tink"}));
+}
+
+TEST_F(PomodoroTimerTest, MinutesChangedWhilePausedOrRunning) {
+    auto timer = make();
+    std::vector<Mode> finished;
+    timer->onSessionComplete = [&](Mode mode, std::optional<std::int64_t>) { finished.push_back(mode); };
+
+    // Paused: the remainder survives a new duration, because the time used is taken against it.
+    timer->start();
+    hub.advance(100);
+    timer->pause();
+    timer->focusMinutes.set(30);
+    timer->applySettings();
+    EXPECT_EQ(timer->secondsLeft.get(), 1400);
+    timer->start();
+    hub.advance(1);
+    EXPECT_EQ(timer->secondsLeft.get(), 1399);
+
+    // Running: the next tick shows the new duration minus the 401.5 s used…
+    timer->focusMinutes.set(10);
+    EXPECT_EQ(timer->secondsLeft.get(), 1399);
+    hub.advance(0.5);
+    EXPECT_EQ(timer->secondsLeft.get(), 199);
+    // …and completes the session when nothing is left of it.
+    timer->focusMinutes.set(5);
+    hub.advance(0.5);
+    EXPECT_EQ(finished, std::vector<Mode>{Mode::focus});
+    EXPECT_EQ(timer->mode.get(), Mode::shortBreak);
+    EXPECT_EQ(sounds.played.back(), "Glass");
+}
+
+TEST_F(PomodoroTimerTest, FirstTickAfterSleepingThroughTheEndCompletesTheSession) {
+    auto timer = make();
+    timer->activeTaskID.set(42);
+    std::vector<std::pair<Mode, std::optional<std::int64_t>>> calls;
+    timer->onSessionComplete = [&](Mode mode, std::optional<std::int64_t> task) {
+        // By now the timer has moved on, filed the count and played its sound.
+        EXPECT_EQ(timer->mode.get(), Mode::shortBreak);
+        EXPECT_EQ(timer->runState.get(), RunState::idle);
+        EXPECT_EQ(defaults.integer("pomo_count"), 1);
+        EXPECT_EQ(sounds.played.back(), "Glass");
+        calls.emplace_back(mode, task);
+    };
+    timer->start();
+    hub.advance(60);
+    clock.advance(3 * 3600);  // asleep: no ticks
+    EXPECT_TRUE(calls.empty());
+
+    hub.fireAll();
+    EXPECT_EQ(calls, (std::vector<std::pair<Mode, std::optional<std::int64_t>>>{{Mode::focus, 42}}));
+    EXPECT_EQ(timer->secondsLeft.get(), 300);
+    EXPECT_EQ(timer->todayCount.get(), 1);
+    EXPECT_EQ(timer->sessionInCycle.get(), 1);
+    EXPECT_EQ(timer->activeTaskID.get(), 42);
+    EXPECT_EQ(hub.activeCount(), 0U);
+    EXPECT_EQ(sounds.played, (Sounds{"Tink", "Glass"}));
+}
+
+TEST_F(PomodoroTimerTest, ClockSetBackMakesProgressNegativeUntilItCatchesUp) {
+    auto timer = make();
+    timer->start();
+    hub.advance(30);
+    EXPECT_NEAR(timer->progress(), 0.02, 1e-12);
+
+    clock.advance(-90);
+    hub.fireAll();
+    EXPECT_EQ(timer->secondsLeft.get(), 1560);
+    EXPECT_NEAR(timer->progress(), -0.04, 1e-12);
+    EXPECT_EQ(timer->runState.get(), RunState::running);
+
+    clock.advance(90);
+    hub.fireAll();
+    EXPECT_EQ(timer->secondsLeft.get(), 1470);
+}
+
+TEST_F(PomodoroTimerTest, CompletedFocusSessionsEarnTheLongBreak) {
+    auto timer = make();
+    for (std::int64_t n = 1; n <= 3; ++n) {
+        runToEnd(*timer);
+        EXPECT_EQ(timer->mode.get(), Mode::shortBreak);
+        EXPECT_EQ(timer->sessionInCycle.get(), n);
+        runToEnd(*timer);
+        EXPECT_EQ(timer->mode.get(), Mode::focus);
+    }
+    EXPECT_EQ(timer->dotsFilled(), 3);
+    runToEnd(*timer);  // the fourth
+    EXPECT_EQ(timer->mode.get(), Mode::longBreak);
+    EXPECT_EQ(timer->sessionInCycle.get(), 0);
+    EXPECT_EQ(timer->todayCount.get(), 4);
+    runToEnd(*timer);
+    EXPECT_EQ(timer->mode.get(), Mode::focus);
+    EXPECT_EQ(sounds.played.back(), "Ping");
+
+    // A limit lowered below the count reached takes effect at the very next completion.
+    for (int n = 0; n < 2; ++n) {
+        runToEnd(*timer);
+        runToEnd(*timer);
+    }
+    timer->sessionsBeforeLongBreak.set(1);
+    runToEnd(*timer);
+    EXPECT_EQ(timer->mode.get(), Mode::longBreak);
+    EXPECT_EQ(timer->sessionInCycle.get(), 0);
+}
+
+TEST_F(PomodoroTimerTest, SkipNeverCountsNorEarnsTheLongBreak) {
+    auto timer = make();
+    int completions = 0;
+    timer->onSessionComplete = [&](Mode, std::optional<std::int64_t>) { ++completions; };
+    for (int n = 0; n < 3; ++n) {
+        runToEnd(*timer);
+        timer->skip();  // out of the break
+    }
+    timer->sessionsBeforeLongBreak.set(3);  // the count is now at the limit
+
+    timer->start();
+    hub.advance(100);
+    timer->skip();
+    EXPECT_EQ(timer->mode.get(), Mode::shortBreak);
+    EXPECT_EQ(timer->sessionInCycle.get(), 3);
+    EXPECT_EQ(timer->todayCount.get(), 3);
+    EXPECT_EQ(completions, 3);
+
+    timer->skip();
+    timer->switchMode(Mode::shortBreak);
+    timer->switchMode(Mode::focus);
+    EXPECT_EQ(timer->sessionInCycle.get(), 3);
+    runToEnd(*timer);
+    EXPECT_EQ(timer->mode.get(), Mode::longBreak);
+}
+
+TEST_F(PomodoroTimerTest, MidnightWhileIdleIsNoticedAtTheNextStart) {
+    clock.set(localMoment(2026, 3, 14, 23, 58));
+    defaults.setText("pomo_date", "2026-03-14");
+    defaults.setInteger("pomo_count", 5);
+    auto timer = make();
+    EXPECT_EQ(timer->todayCount.get(), 5);
+
+    clock.set(localMoment(2026, 3, 15, 0, 30));  // still the 14th in UTC
+    EXPECT_EQ(timer->todayCount.get(), 5);
+    timer->start();
+    EXPECT_EQ(timer->todayCount.get(), 0);
+}
+
+TEST_F(PomodoroTimerTest, MidnightWhilePausedCountsTheCompletionForTheNewDay) {
+    clock.set(localMoment(2026, 3, 14, 23, 50));
+    defaults.setText("pomo_date", "2026-03-14");
+    defaults.setInteger("pomo_count", 5);
+    auto timer = make();
+    timer->start();
+    hub.advance(60);
+    timer->pause();
+
+    clock.set(localMoment(2026, 3, 15, 0, 30));
+    timer->start();
+    EXPECT_EQ(timer->todayCount.get(), 0);
+    hub.advance(static_cast<double>(timer->secondsLeft.get()));
+    EXPECT_EQ(timer->todayCount.get(), 1);
+    EXPECT_EQ(defaults.integer("pomo_count"), 1);
+    EXPECT_EQ(defaults.text("pomo_date"), "2026-03-15");
+}
+
+TEST_F(PomodoroTimerTest, CountWithoutItsDayReadsZero) {
+    defaults.setInteger("pomo_count", 9);
+    EXPECT_EQ(make()->todayCount.get(), 0);
+    EXPECT_EQ(defaults.values.size(), 1U);  // nothing written back
+
+    defaults.setText("pomo_date", PomodoroTimer::todayString(clock));
+    EXPECT_EQ(make()->todayCount.get(), 9);
+}
+
+TEST_F(PomodoroTimerTest, StoredSettingsBelowOneOrNotIntegersKeepTheDefaults) {
+    defaults.setInteger("pomo_focus", 0);
+    defaults.setInteger("pomo_short", -5);
+    defaults.setText("pomo_long", "20");
+    defaults.setInteger("pomo_cycle", 6);
+    auto timer = make();
+    EXPECT_EQ(timer->focusMinutes.get(), 25);
+    EXPECT_EQ(timer->shortBreakMinutes.get(), 5);
+    EXPECT_EQ(timer->longBreakMinutes.get(), 15);
+    EXPECT_EQ(timer->sessionsBeforeLongBreak.get(), 6);
+    EXPECT_EQ(timer->secondsLeft.get(), 1500);
+
+    // Applied settings come back after a restart.
+    timer->focusMinutes.set(50);
+    timer->applySettings();
+    EXPECT_EQ(timer->secondsLeft.get(), 3000);
+    auto restarted = make();
+    EXPECT_EQ(restarted->focusMinutes.get(), 50);
+    EXPECT_EQ(restarted->longBreakMinutes.get(), 15);
+    EXPECT_EQ(restarted->secondsLeft.get(), 3000);
+}
+
+TEST_F(PomodoroTimerTest, AbsurdSettingsAndClockJumpsStayDefined) {
+    constexpr std::int64_t huge = std::numeric_limits<std::int64_t>::max();
+    defaults.setInteger("pomo_focus", huge);
+    defaults.setText("pomo_date", PomodoroTimer::todayString(clock));
+    defaults.setInteger("pomo_count", huge);
+    auto timer = make();
+    EXPECT_EQ(timer->secondsLeft.get(), huge);  // minutes × 60 saturates
+    EXPECT_FALSE(timer->displayTime().empty());
+
+    timer->start();
+    clock.set(-1e300);  // far behind the start
+    hub.fireAll();
+    EXPECT_EQ(timer->secondsLeft.get(), huge);
+    clock.set(std::nan(""));
+    hub.fireAll();
+    EXPECT_EQ(timer->runState.get(), RunState::running);
+    clock.set(1e300);  // far beyond any end, and beyond any calendar
+    hub.fireAll();
+    EXPECT_EQ(timer->runState.get(), RunState::idle);
+    EXPECT_EQ(timer->todayCount.get(), huge);
+}
+
+TEST_F(PomodoroTimerTest, DisplayTimeAndProgressOfTheIdleClock) {
+    auto timer = make();
+    timer->focusMinutes.set(100);
+    timer->applySettings();
+    EXPECT_EQ(timer->displayTime(), "100:00");
+    EXPECT_DOUBLE_EQ(timer->progress(), 0);
+    timer->secondsLeft.set(1234);
+    EXPECT_EQ(timer->displayTime(), "20:34");
+    timer->secondsLeft.set(5);
+    EXPECT_EQ(timer->displayTime(), "00:05");
+
+    timer->focusMinutes.set(0);  // no duration: no division by it
+    EXPECT_DOUBLE_EQ(timer->progress(), 0);
+}
+
+}  // namespace
+}  // namespace larkspan

@@ -1,0 +1,103 @@
+#include "Platform/Linux/LinuxScriptRunner.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "Platform/Linux/BrowserScripts.h"
+
+namespace larkspan {
+namespace {
+
+const std::string kFirefoxScript =
+    "tell application \"Firefox\"\n"
+    "    try\n"
+    "        set t to name of front window\n"
+    "        return \"firefox://active|||\" & t\n"
+    "    on error\n"
+    "        return \"firefox://active|||Firefox\"\n"
+    "    end try\n"
+    "end tell";
+
+std::string chromiumScript(const std::string& name) {
+    return "tell application \"" + name +
+           "\"\n"
+           "    try\n"
+           "        set u to URL of active tab of first window\n"
+           "        set t to title of active tab of first window\n"
+           "        return u & \"|||\" & t\n"
+           "    on error\n"
+           "        return \"about:blank|||" +
+           name +
+           "\"\n"
+           "    end try\n"
+           "end tell";
+}
+
+const std::string kSafariScript =
+    "tell application \"Safari\"\n"
+    "    try\n"
+    "        set u to URL of current tab of front window\n"
+    "        set t to name of current tab of front window\n"
+    "        return u & \"|||\" & t\n"
+    "    on error\n"
+    "        return \"about:blank|||Safari\"\n"
+    "    end try\n"
+    "end tell";
+
+class FakeWindows final : public ApplicationWindows {
+public:
+    std::optional<std::string> frontWindowTitle(const std::string& bundleID) override {
+        asked.push_back(bundleID);
+        auto it = titles.find(bundleID);
+        return it == titles.end() ? std::nullopt : std::optional(it->second);
+    }
+    std::map<std::string, std::string> titles;
+    std::vector<std::string> asked;
+};
+
+TEST(LinuxScriptRunner, RecognisesExactlyTheBrowserScripts) {
+    using Kind = BrowserScript::Kind;
+    EXPECT_EQ(recogniseBrowserScript(kFirefoxScript), (BrowserScript{Kind::firefox, "Firefox"}));
+    EXPECT_EQ(recogniseBrowserScript(kSafariScript), (BrowserScript{Kind::safari, "Safari"}));
+    EXPECT_EQ(recogniseBrowserScript(chromiumScript("Google Chrome")),
+              (BrowserScript{Kind::chromiumFamily, "Google Chrome"}));
+    EXPECT_EQ(recogniseBrowserScript(chromiumScript("Brave Browser")),
+              (BrowserScript{Kind::chromiumFamily, "Brave Browser"}));
+    // A trailing line feed, a tab for spaces, two different names, no name, text around: not ours.
+    for (const auto& text :
+         {kFirefoxScript + "\n", kSafariScript.substr(0, kSafariScript.size() - 1),
+          std::string(kFirefoxScript).replace(kFirefoxScript.find("    "), 4, "\t"),
+          chromiumScript("Edge").replace(chromiumScript("Edge").rfind("Edge"), 4, "Chrome"),
+          std::string("tell application \""), std::string(), "-- x\n" + kSafariScript}) {
+        EXPECT_FALSE(recogniseBrowserScript(text)) << text;
+    }
+}
+
+TEST(LinuxScriptRunner, FirefoxIsAnsweredFromItsFrontWindowOthersFail) {
+    auto windows = std::make_shared<FakeWindows>();
+    LinuxScriptRunner runner(windows);
+    EXPECT_EQ(runner.compile("display dialog \"hi\""), nullptr);
+
+    const auto firefox = runner.compile(kFirefoxScript);
+    ASSERT_NE(firefox, nullptr);
+    // No Firefox window: the script's error branch.
+    EXPECT_EQ(runner.execute(*firefox), "firefox://active|||Firefox");
+    windows->titles["org.mozilla.firefox"] = "Rust |||  docs \xF0\x9F\xA6\x80 \xE2\x80\x94 Mozilla Firefox";
+    EXPECT_EQ(runner.execute(*firefox),
+              "firefox://active|||Rust |||  docs \xF0\x9F\xA6\x80 \xE2\x80\x94 Mozilla Firefox");
+    windows->titles["org.mozilla.firefox"] = "";
+    EXPECT_EQ(runner.execute(*firefox), "firefox://active|||");
+    EXPECT_EQ(windows->asked, (std::vector<std::string>(3, "org.mozilla.firefox")));
+
+    // The bridge for the other browsers is not there: no answer, and no desktop query either.
+    for (const auto& text : {kSafariScript, chromiumScript("Google Chrome")}) {
+        const auto script = runner.compile(text);
+        ASSERT_NE(script, nullptr);
+        EXPECT_FALSE(runner.execute(*script));
+    }
+    EXPECT_EQ(windows->asked.size(), 3u);
+}
+
+}  // namespace
+}  // namespace larkspan

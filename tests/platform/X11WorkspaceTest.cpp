@@ -1,0 +1,317 @@
+// The workspace against a real X server: a private Xvfb display with openbox, xterm windows with
+// known classes and titles, and xdotool as the user.
+#include "Platform/Linux/X11Workspace.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <fstream>
+#include <thread>
+
+#include "ManualMainQueue.h"
+#include "Platform/Linux/LinuxScriptRunner.h"
+#include "RecordingNotifier.h"
+#include "TempDir.h"
+#include "TestWindows.h"
+#include "XvfbDisplay.h"
+
+namespace larkspan {
+namespace {
+
+using namespace std::chrono_literals;
+const std::filesystem::path kData = LARKSPAN_PLATFORM_TEST_DATA;
+
+class X11WorkspaceTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        if (!test::XvfbDisplay::xvfbInstalled()) {
+            GTEST_SKIP()
+                << "Xvfb is not installed; scripts/install-deps installs it. Skipping the X11 tests.";
+        }
+        display = std::make_unique<test::XvfbDisplay>(displayOptions());
+        ASSERT_TRUE(display->ready()) << display->error();
+    }
+
+    virtual test::XvfbDisplay::Options displayOptions() { return {}; }
+
+    std::shared_ptr<X11Workspace> makeWorkspace(bool wayland = false) {
+        SessionEnvironment session;
+        session.display = display->name();
+        session.wayland = wayland;
+        auto entries = std::make_shared<DesktopEntries>(std::vector{kData / "x11/applications"},
+                                                        std::vector<std::string>{"de"});
+        return std::make_shared<X11Workspace>(session, std::make_shared<AppIdentity>(entries), mainQueue,
+                                              notifier);
+    }
+
+    pid_t xterm(const std::string& wmClass, const std::string& title,
+                const std::string& command = "exec sleep 600") {
+        return display->spawn({"xterm", "-u8", "-class", wmClass, "-T", title, "-e", "sh", "-c", command});
+    }
+
+    std::string frontmostID(Workspace& workspace) {
+        auto app = workspace.frontmostApplication();
+        return app && app->bundleID ? *app->bundleID : "(none)";
+    }
+
+    // The one mapped window of this class; empty (and a failure) when there is not exactly one.
+    std::string windowOf(const std::string& wmClass) {
+        const auto windows = display->windowsOfClass(wmClass);
+        EXPECT_EQ(windows.size(), 1u) << wmClass;
+        return windows.size() == 1 ? windows[0] : std::string();
+    }
+
+    // Creates a test window and waits until it is shown.
+    std::string show(test::TestWindows& windows, const test::TestWindows::Spec& spec) {
+        const auto id = windows.create(spec);
+        const auto name = std::to_string(id);
+        for (int attempt = 0; attempt < 10; ++attempt) {
+            const auto shown = display->windowsOfClass(spec.wmClass, 500ms);
+            if (std::find(shown.begin(), shown.end(), name) != shown.end())
+                return name;
+            windows.map(id);
+        }
+        ADD_FAILURE() << spec.title << " was never shown";
+        return name;
+    }
+
+    // Activates the window until the workspace sees that application in front. A window manager
+    // ignores requests for a window it is still taking over, hence the repeats.
+    void bringToFront(Workspace& workspace, const std::string& window, const std::string& expectedID) {
+        bool front = false;
+        for (int attempt = 0; attempt < 10 && !front; ++attempt) {
+            display->activate(window);
+            front = test::waitUntil([&] { return frontmostID(workspace) == expectedID; }, 500ms);
+        }
+        ASSERT_TRUE(front) << "front: " << frontmostID(workspace) << ", expected " << expectedID;
+    }
+
+    // Activates the window until the focused window of `pid` has this title.
+    void focus(Workspace& workspace, const std::string& window, std::int64_t pid, const std::string& title) {
+        bool focused = false;
+        for (int attempt = 0; attempt < 10 && !focused; ++attempt) {
+            display->activate(window);
+            focused = test::waitUntil([&] { return workspace.focusedWindowTitle(pid) == title; }, 500ms);
+        }
+        ASSERT_TRUE(focused) << workspace.focusedWindowTitle(pid).value_or("(none)") << ", expected "
+                             << title;
+    }
+
+    std::unique_ptr<test::XvfbDisplay> display;
+    std::shared_ptr<test::ManualMainQueue> mainQueue = std::make_shared<test::ManualMainQueue>();
+    std::shared_ptr<test::RecordingNotifier> notifier = std::make_shared<test::RecordingNotifier>();
+};
+
+TEST_F(X11WorkspaceTest, ReportsTheFrontmostApplicationAndItsWindowTitle) {
+    const pid_t alpha = xterm("LarkspanAlpha", "Alpha plain");
+    const pid_t beta = xterm("LarkspanBeta", "Beta \xF0\x9F\x9A\x80 \xC3\xBCn\xC3\xAF \xE2\x9C\x93");
+    const auto alphaWindow = windowOf("LarkspanAlpha");
+    const auto betaWindow = windowOf("LarkspanBeta");
+    auto workspace = makeWorkspace();
+    EXPECT_TRUE(workspace->canReadWindows());
+
+    // No desktop entry: the window class is identifier and name.
+    bringToFront(*workspace, alphaWindow, "LarkspanAlpha");
+    auto front = workspace->frontmostApplication();
+    EXPECT_EQ(front->localizedName, "LarkspanAlpha");
+    EXPECT_EQ(front->pid, alpha);
+    EXPECT_EQ(workspace->focusedWindowTitle(alpha), "Alpha plain");
+
+    // An entry with StartupWMClass: its id and localized name; a UTF-8 title with emoji.
+    bringToFront(*workspace, betaWindow, "larkspan-beta");
+    front = workspace->frontmostApplication();
+    EXPECT_EQ(front->localizedName, "Beta-Werkzeug");
+    EXPECT_EQ(front->pid, beta);
+    EXPECT_EQ(workspace->focusedWindowTitle(beta), "Beta \xF0\x9F\x9A\x80 \xC3\xBCn\xC3\xAF \xE2\x9C\x93");
+    // An application behind still has a title; a process without windows has none.
+    EXPECT_EQ(workspace->focusedWindowTitle(alpha), "Alpha plain");
+    EXPECT_FALSE(workspace->focusedWindowTitle(getpid()));
+
+    std::set<std::pair<std::string, std::int64_t>> running;
+    for (const auto& app : workspace->runningApplications())
+        running.emplace(app.bundleID.value_or(""), app.pid);
+    EXPECT_TRUE(running.count({"LarkspanAlpha", alpha}));
+    EXPECT_TRUE(running.count({"larkspan-beta", beta}));
+}
+
+TEST_F(X11WorkspaceTest, ATitleThatChangesWhileFocusedIsReadAfresh) {
+    test::TempDir dir;
+    const auto flag = (dir / "flag").string();
+    const pid_t pid = xterm("LarkspanRetitled", "Before",
+                            "while [ ! -e '" + flag + "' ]; do sleep 0.02; done; printf '\\033]2;%s\\007' '" +
+                                "After \xE2\x9C\x93 \xF0\x9F\x9A\x80" + "'; exec sleep 600");
+    const auto window = windowOf("LarkspanRetitled");
+    auto workspace = makeWorkspace();
+    bringToFront(*workspace, window, "LarkspanRetitled");
+    EXPECT_EQ(workspace->focusedWindowTitle(pid), "Before");
+
+    std::ofstream(flag) << "go";
+    EXPECT_TRUE(test::waitUntil([&] {
+        return workspace->focusedWindowTitle(pid) == "After \xE2\x9C\x93 \xF0\x9F\x9A\x80";
+    })) << workspace->focusedWindowTitle(pid).value_or("(none)");
+}
+
+TEST_F(X11WorkspaceTest, ActivationFiresOncePerApplicationNotPerWindow) {
+    xterm("LarkspanOther", "Other");
+    const auto other = windowOf("LarkspanOther");
+    // One process with two windows: one application.
+    test::TestWindows windows(display->name());
+    ASSERT_TRUE(windows.connected());
+    const auto first = show(windows, {"same", "LarkspanSame", "Same one"});
+    const auto second = show(windows, {"same", "LarkspanSame", "Same two"});
+
+    auto workspace = makeWorkspace();
+    int activations = 0;
+    workspace->setApplicationActivatedHandler([&] { ++activations; });
+    const auto activationsSeen = [&](int expected) {
+        return test::waitUntil([&] {
+            mainQueue->drain();
+            return activations >= expected;
+        });
+    };
+
+    bringToFront(*workspace, other, "LarkspanOther");
+    bringToFront(*workspace, first, "LarkspanSame");
+    ASSERT_TRUE(activationsSeen(1));
+    mainQueue->drain();
+    const int afterFirst = activations;
+
+    // Window to window within the application: nothing. Then another application: exactly one.
+    focus(*workspace, second, getpid(), "Same two");
+    bringToFront(*workspace, other, "LarkspanOther");
+    ASSERT_TRUE(activationsSeen(afterFirst + 1));
+    // The watcher handles notices in order, so a notice for the window switch would be in by now.
+    std::this_thread::sleep_for(100ms);
+    mainQueue->drain();
+    EXPECT_EQ(activations, afterFirst + 1);
+
+    // A removed handler is not called; the workspace going away drops what is still queued.
+    workspace->setApplicationActivatedHandler({});
+    bringToFront(*workspace, first, "LarkspanSame");
+    workspace.reset();
+    mainQueue->drain();
+    EXPECT_EQ(activations, afterFirst + 1);
+}
+
+TEST_F(X11WorkspaceTest, ADialogBelongsToItsMainWindowsApplication) {
+    test::TestWindows windows(display->name());
+    const auto main = show(windows, {"beta", "LarkspanBeta", "Main"});
+    const auto dialog = show(windows, {"dialog", "LarkspanDialog", "Save changes?", "",
+                                       static_cast<std::uint32_t>(std::stoul(main))});
+    const auto gtk = show(windows, {"whatever", "Whatever", "GTK window", "larkspan-beta"});
+    auto workspace = makeWorkspace();
+
+    focus(*workspace, dialog, getpid(), "Save changes?");
+    EXPECT_EQ(frontmostID(*workspace), "larkspan-beta");
+    focus(*workspace, gtk, getpid(), "GTK window");
+    EXPECT_EQ(frontmostID(*workspace), "larkspan-beta");
+}
+
+TEST_F(X11WorkspaceTest, IdleSecondsGrowWhileNothingHappensAndDropAfterInput) {
+    auto workspace = makeWorkspace();
+    display->run({"xdotool", "mousemove", "10", "10"});
+    double idle = 0;
+    ASSERT_TRUE(test::waitUntil([&] { return (idle = workspace->secondsSinceLastInput()) >= 1.0; }, 3000ms))
+        << idle;
+    display->run({"xdotool", "mousemove", "300", "200"});
+    EXPECT_LT(workspace->secondsSinceLastInput(), idle);
+}
+
+TEST_F(X11WorkspaceTest, FirefoxScriptIsAnsweredWithFirefoxsFrontWindow) {
+    auto workspace = makeWorkspace();
+    LinuxScriptRunner runner(workspace);
+    const auto script = runner.compile(
+        "tell application \"Firefox\"\n    try\n        set t to name of front window\n"
+        "        return \"firefox://active|||\" & t\n    on error\n        return "
+        "\"firefox://active|||Firefox\"\n"
+        "    end try\nend tell");
+    ASSERT_NE(script, nullptr);
+    EXPECT_EQ(runner.execute(*script), "firefox://active|||Firefox");
+
+    // Firefox's window is found by its class even with another application in front.
+    xterm("firefox", "Example Domain \xE2\x80\x94 Mozilla Firefox");
+    xterm("LarkspanOther", "Other");
+    ASSERT_FALSE(windowOf("firefox").empty());
+    bringToFront(*workspace, windowOf("LarkspanOther"), "LarkspanOther");
+    EXPECT_EQ(runner.execute(*script), "firefox://active|||Example Domain \xE2\x80\x94 Mozilla Firefox");
+}
+
+TEST_F(X11WorkspaceTest, SurvivesTheServerGoingAwayAndReconnects) {
+    xterm("LarkspanAlpha", "Alpha");
+    auto workspace = makeWorkspace();
+    int activations = 0;
+    workspace->setApplicationActivatedHandler([&] { ++activations; });
+    bringToFront(*workspace, windowOf("LarkspanAlpha"), "LarkspanAlpha");
+
+    display->stopServer();
+    rusage before{};
+    getrusage(RUSAGE_SELF, &before);
+    EXPECT_FALSE(workspace->frontmostApplication());
+    EXPECT_FALSE(workspace->canReadWindows());
+    EXPECT_EQ(workspace->secondsSinceLastInput(), 0);
+    EXPECT_TRUE(workspace->runningApplications().empty());
+    std::this_thread::sleep_for(1500ms);
+    rusage after{};
+    getrusage(RUSAGE_SELF, &after);
+    // Waiting for the server is sleeping, not spinning: a busy loop would burn the whole interval.
+    const double cpu =
+        (after.ru_utime.tv_sec - before.ru_utime.tv_sec + after.ru_stime.tv_sec - before.ru_stime.tv_sec) +
+        (after.ru_utime.tv_usec - before.ru_utime.tv_usec + after.ru_stime.tv_usec -
+         before.ru_stime.tv_usec) /
+            1e6;
+    EXPECT_LT(cpu, 0.5);
+
+    ASSERT_TRUE(display->restartServer()) << display->error();
+    xterm("LarkspanBack", "Back again");
+    const auto back = windowOf("LarkspanBack");
+    bringToFront(*workspace, back, "LarkspanBack");
+    EXPECT_TRUE(workspace->canReadWindows());
+    // The watcher is back too: the application that came to the front meanwhile is announced.
+    EXPECT_TRUE(test::waitUntil(
+        [&] {
+            mainQueue->drain();
+            return activations >= 1;
+        },
+        8000ms));
+}
+
+class X11WorkspaceWithoutScreenSaverTest : public X11WorkspaceTest {
+protected:
+    test::XvfbDisplay::Options displayOptions() override { return {.screenSaverExtension = false}; }
+};
+
+TEST_F(X11WorkspaceWithoutScreenSaverTest, IdleIsZeroAndTrackingGoesOn) {
+    xterm("LarkspanAlpha", "Alpha");
+    auto workspace = makeWorkspace();
+    bringToFront(*workspace, windowOf("LarkspanAlpha"), "LarkspanAlpha");
+    std::this_thread::sleep_for(1100ms);
+    EXPECT_EQ(workspace->secondsSinceLastInput(), 0);
+}
+
+TEST_F(X11WorkspaceTest, WindowsCanBeReadOnlyInAnX11Session) {
+    auto x11 = makeWorkspace();
+    EXPECT_TRUE(x11->canReadWindows());
+    // XWayland is not trusted: nothing is reported even though an X server answers.
+    xterm("LarkspanAlpha", "Alpha");
+    bringToFront(*x11, windowOf("LarkspanAlpha"), "LarkspanAlpha");
+    auto wayland = makeWorkspace(true);
+    EXPECT_FALSE(wayland->canReadWindows());
+    EXPECT_FALSE(wayland->frontmostApplication());
+    EXPECT_EQ(wayland->secondsSinceLastInput(), 0);
+
+    // No display at all; the prompt is one notification saying what is needed.
+    X11Workspace none(SessionEnvironment{},
+                      std::make_shared<AppIdentity>(std::make_shared<DesktopEntries>(
+                          std::vector<std::filesystem::path>{}, std::vector<std::string>{})),
+                      mainQueue, notifier);
+    EXPECT_FALSE(none.canReadWindows());
+    EXPECT_TRUE(notifier->sent.empty());
+    none.promptForWindowAccess();
+    ASSERT_EQ(notifier->sent.size(), 1u);
+    EXPECT_NE(notifier->sent[0].body.find("needs an X11 session"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace larkspan
