@@ -2,72 +2,14 @@
 
 #include <uriparser/Uri.h>
 
+#include "Tracking/BrowserScripts.h"
+
 namespace larkspan {
 
 namespace {
 
 constexpr std::string_view kSeparator = "|||";
 constexpr const char* kFallbackBrowserName = "Google Chrome";
-
-const std::string kSafariScript =
-    "tell application \"Safari\"\n"
-    "    try\n"
-    "        set u to URL of current tab of front window\n"
-    "        set t to name of current tab of front window\n"
-    "        return u & \"|||\" & t\n"
-    "    on error\n"
-    "        return \"about:blank|||Safari\"\n"
-    "    end try\n"
-    "end tell";
-
-const std::string kFirefoxScript =
-    "tell application \"Firefox\"\n"
-    "    try\n"
-    "        set t to name of front window\n"
-    "        return \"firefox://active|||\" & t\n"
-    "    on error\n"
-    "        return \"firefox://active|||Firefox\"\n"
-    "    end try\n"
-    "end tell";
-
-const std::string kArcScript =
-    "tell application \"Arc\"\n"
-    "    try\n"
-    "        tell front window\n"
-    "            set u to URL of active tab\n"
-    "            set t to title of active tab\n"
-    "            return u & \"|||\" & t\n"
-    "        end tell\n"
-    "    on error\n"
-    "        return \"about:blank|||Arc\"\n"
-    "    end try\n"
-    "end tell";
-
-const std::string kOrionScript =
-    "tell application \"Orion\"\n"
-    "    try\n"
-    "        set u to URL of current tab of front window\n"
-    "        set t to name of current tab of front window\n"
-    "        return u & \"|||\" & t\n"
-    "    on error\n"
-    "        return \"about:blank|||Orion\"\n"
-    "    end try\n"
-    "end tell";
-
-std::string chromiumScript(const std::string& name) {
-    return "tell application \"" + name +
-           "\"\n"
-           "    try\n"
-           "        set u to URL of active tab of first window\n"
-           "        set t to title of active tab of first window\n"
-           "        return u & \"|||\" & t\n"
-           "    on error\n"
-           "        return \"about:blank|||" +
-           name +
-           "\"\n"
-           "    end try\n"
-           "end tell";
-}
 
 std::string_view trimmed(std::string_view text) {
     const auto blank = [](char c) { return c == ' ' || c == '\t'; };
@@ -128,19 +70,19 @@ std::optional<TabInfo> BrowserTracker::getActiveTab(const std::string& bundleID)
 
 std::string BrowserTracker::appleScript(const std::string& bundleID) {
     if (bundleID == "com.apple.Safari")
-        return kSafariScript;
+        return std::string(kSafariTabScript);
     if (bundleID == "org.mozilla.firefox")
-        return kFirefoxScript;
+        return std::string(kFirefoxTabScript);
     if (bundleID == "company.thebrowser.Browser")
-        return kArcScript;
+        return std::string(kArcTabScript);
     if (bundleID == "com.kagi.kagimacOS")
-        return kOrionScript;
+        return std::string(kOrionTabScript);
     for (const auto& app : workspace_.runningApplications()) {
         if (app.bundleID == bundleID) {
-            return chromiumScript(app.localizedName.value_or(kFallbackBrowserName));
+            return chromiumFamilyTabScript(app.localizedName.value_or(kFallbackBrowserName));
         }
     }
-    return chromiumScript(kFallbackBrowserName);
+    return chromiumFamilyTabScript(kFallbackBrowserName);
 }
 
 std::shared_ptr<CompiledScript> BrowserTracker::compiledScript(const std::string& source) {
