@@ -6,9 +6,9 @@
 // seconds is deleted again. There is no final write: at the end of the process the open row keeps
 // what its last heartbeat wrote.
 //
-//   samples  A A A A B B B B B B B A ...        (equal samples change nothing)
-//   rows     [A──────)[B────────────)[A ...      each inserted at its first sample
-//   ticks         ♥         ♥        ♥          end time and duration of the open row
+//   samples   A  A  A  B  B  B  B  B  B  B  B  A   one every 4 s; equal ones change nothing
+//   rows      [A──────)[B─────────────────────)[A…   each inserted at its first sample
+//   heartbeat                       ^ every 30 s: the open row's end and duration
 //
 // The session is in one of three states: none (no sample yet), stored (a row belongs to it) or
 // unstored (its insert failed; equal samples are still ignored and nothing is retried until the
