@@ -8,7 +8,6 @@
 #include "ManualClock.h"
 #include "ManualMainQueue.h"
 #include "ManualTimerHub.h"
-#include "SqliteFile.h"
 #include "StatementTrace.h"
 #include "TempDir.h"
 
@@ -41,7 +40,6 @@ const RawActivity kMystery = app("Zqx", "org.example.Zqx");                // Ot
 struct SessionManagerTest : ::testing::Test {
     TempDir dir;
     Database db{dir / "tracker.db"};
-    SqliteFile file{dir / "tracker.db"};
     CountingCategoryEngine engine;
     ManualClock clock;
     const Date t0 = clock.now();
@@ -180,31 +178,6 @@ TEST_F(SessionManagerTest, PublishedCountRunsAheadOfTheStoresUntilRefreshed) {
     EXPECT_EQ(manager->pendingApprovalCount.get(), 2);  // posted, not yet run
     mainQueue.drain();
     EXPECT_EQ(manager->pendingApprovalCount.get(), 1);
-}
-
-TEST_F(SessionManagerTest, RefusedInsertLeavesTheSessionUnstoredUntilTheActivityChanges) {
-    after(0, kKitty);
-    file.exec("CREATE TRIGGER refuse BEFORE INSERT ON activities BEGIN SELECT RAISE(ABORT, 'full'); END;");
-    after(10, kMystery);
-    ASSERT_EQ(rows().size(), 1u);
-    EXPECT_EQ(rows()[0].durationSeconds, 10);  // the previous session was still closed
-    EXPECT_EQ(manager->currentSession.get()->appName, "kitty");
-    EXPECT_EQ(manager->pendingApprovalCount.get(), 0);
-    EXPECT_EQ(sessions.size(), 1u);
-
-    // Equal samples are ignored and nothing is retried, even once the store takes rows again; the
-    // heartbeat has no row to write to.
-    file.exec("DROP TRIGGER refuse;");
-    StatementTrace trace(db);
-    after(40, kMystery);
-    EXPECT_TRUE(trace.take().empty());
-    // The next change opens a stored session; nothing of the unstored one is closed.
-    after(1, kKitty);
-    const auto statements = trace.take();
-    ASSERT_EQ(statements.size(), 1u) << ::testing::PrintToString(statements);
-    EXPECT_TRUE(statements[0].starts_with("INSERT INTO activities")) << statements[0];
-    ASSERT_EQ(rows().size(), 2u);
-    EXPECT_EQ(rows()[1].startTime, t0 + 51);
 }
 
 TEST_F(SessionManagerTest, SampleThatChangesNothingTouchesNeitherStoreNorEngine) {
