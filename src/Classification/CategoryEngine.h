@@ -32,6 +32,8 @@ struct LearnedRule {
 
 class CategoryEngine {
 public:
+    virtual ~CategoryEngine() = default;
+
     // As fetched from the store, in the store's order. Written by the owner; the engine only reads.
     std::vector<LearnedRule> learnedRules;
 
@@ -42,11 +44,13 @@ public:
     //   4. domain table; 5. bundle table; 6. application-name table; 7. window-title extensions;
     //   8. (Other, 0.3), which needs approval.
     // Learned keys match exactly and case-sensitively. An absent or empty domain, bundle id, address or
-    // title skips its learned step; the name has no such test.
-    ClassificationResult classify(std::string_view appName, const std::optional<std::string>& bundleID,
-                                  const std::optional<std::string>& windowTitle,
-                                  const std::optional<std::string>& url,
-                                  const std::optional<std::string>& domain) const;
+    // title skips its learned step; the name has no such test. Virtual so that a test can count
+    // the calls.
+    virtual ClassificationResult classify(std::string_view appName,
+                                          const std::optional<std::string>& bundleID,
+                                          const std::optional<std::string>& windowTitle,
+                                          const std::optional<std::string>& url,
+                                          const std::optional<std::string>& domain) const;
 
     // Services judged page by page rather than as a whole domain: bare main domains, lower case.
     static const std::unordered_set<std::string>& mixedContentDomains();

@@ -4,46 +4,14 @@
 
 #include <map>
 
-#include "Platform/Linux/BrowserScripts.h"
+#include "Platform/Linux/BrowserScript.h"
+#include "Tracking/BrowserScripts.h"
 
 namespace larkspan {
 namespace {
 
-const std::string kFirefoxScript =
-    "tell application \"Firefox\"\n"
-    "    try\n"
-    "        set t to name of front window\n"
-    "        return \"firefox://active|||\" & t\n"
-    "    on error\n"
-    "        return \"firefox://active|||Firefox\"\n"
-    "    end try\n"
-    "end tell";
-
-std::string chromiumScript(const std::string& name) {
-    return "tell application \"" + name +
-           "\"\n"
-           "    try\n"
-           "        set u to URL of active tab of first window\n"
-           "        set t to title of active tab of first window\n"
-           "        return u & \"|||\" & t\n"
-           "    on error\n"
-           "        return \"about:blank|||" +
-           name +
-           "\"\n"
-           "    end try\n"
-           "end tell";
-}
-
-const std::string kSafariScript =
-    "tell application \"Safari\"\n"
-    "    try\n"
-    "        set u to URL of current tab of front window\n"
-    "        set t to name of current tab of front window\n"
-    "        return u & \"|||\" & t\n"
-    "    on error\n"
-    "        return \"about:blank|||Safari\"\n"
-    "    end try\n"
-    "end tell";
+const std::string kFirefoxScript(kFirefoxTabScript);
+const std::string kSafariScript(kSafariTabScript);
 
 class FakeWindows final : public ApplicationWindows {
 public:
@@ -60,15 +28,15 @@ TEST(LinuxScriptRunner, RecognisesExactlyTheBrowserScripts) {
     using Kind = BrowserScript::Kind;
     EXPECT_EQ(recogniseBrowserScript(kFirefoxScript), (BrowserScript{Kind::firefox, "Firefox"}));
     EXPECT_EQ(recogniseBrowserScript(kSafariScript), (BrowserScript{Kind::safari, "Safari"}));
-    EXPECT_EQ(recogniseBrowserScript(chromiumScript("Google Chrome")),
+    EXPECT_EQ(recogniseBrowserScript(chromiumFamilyTabScript("Google Chrome")),
               (BrowserScript{Kind::chromiumFamily, "Google Chrome"}));
-    EXPECT_EQ(recogniseBrowserScript(chromiumScript("Brave Browser")),
+    EXPECT_EQ(recogniseBrowserScript(chromiumFamilyTabScript("Brave Browser")),
               (BrowserScript{Kind::chromiumFamily, "Brave Browser"}));
     // A trailing line feed, a tab for spaces, two different names, no name, text around: not ours.
     for (const auto& text :
          {kFirefoxScript + "\n", kSafariScript.substr(0, kSafariScript.size() - 1),
           std::string(kFirefoxScript).replace(kFirefoxScript.find("    "), 4, "\t"),
-          chromiumScript("Edge").replace(chromiumScript("Edge").rfind("Edge"), 4, "Chrome"),
+          chromiumFamilyTabScript("Edge").replace(chromiumFamilyTabScript("Edge").rfind("Edge"), 4, "Chrome"),
           std::string("tell application \""), std::string(), "-- x\n" + kSafariScript}) {
         EXPECT_FALSE(recogniseBrowserScript(text)) << text;
     }
@@ -91,7 +59,7 @@ TEST(LinuxScriptRunner, FirefoxIsAnsweredFromItsFrontWindowOthersFail) {
     EXPECT_EQ(windows->asked, (std::vector<std::string>(3, "org.mozilla.firefox")));
 
     // The bridge for the other browsers is not there: no answer, and no desktop query either.
-    for (const auto& text : {kSafariScript, chromiumScript("Google Chrome")}) {
+    for (const auto& text : {kSafariScript, chromiumFamilyTabScript("Google Chrome")}) {
         const auto script = runner.compile(text);
         ASSERT_NE(script, nullptr);
         EXPECT_FALSE(runner.execute(*script));

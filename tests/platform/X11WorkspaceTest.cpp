@@ -15,6 +15,7 @@
 #include "RecordingNotifier.h"
 #include "TempDir.h"
 #include "TestWindows.h"
+#include "Tracking/BrowserScripts.h"
 #include "XvfbDisplay.h"
 
 namespace larkspan {
@@ -222,11 +223,7 @@ TEST_F(X11WorkspaceTest, IdleSecondsGrowWhileNothingHappensAndDropAfterInput) {
 TEST_F(X11WorkspaceTest, FirefoxScriptIsAnsweredWithFirefoxsFrontWindow) {
     auto workspace = makeWorkspace();
     LinuxScriptRunner runner(workspace);
-    const auto script = runner.compile(
-        "tell application \"Firefox\"\n    try\n        set t to name of front window\n"
-        "        return \"firefox://active|||\" & t\n    on error\n        return "
-        "\"firefox://active|||Firefox\"\n"
-        "    end try\nend tell");
+    const auto script = runner.compile(std::string(kFirefoxTabScript));
     ASSERT_NE(script, nullptr);
     EXPECT_EQ(runner.execute(*script), "firefox://active|||Firefox");
 

@@ -1,7 +1,7 @@
 // Browser scripts answered from the desktop.
 #include "Platform/Linux/LinuxScriptRunner.h"
 
-#include "Platform/Linux/BrowserScripts.h"
+#include "Platform/Linux/BrowserScript.h"
 
 namespace larkspan {
 namespace {

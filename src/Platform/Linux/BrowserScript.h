@@ -1,6 +1,6 @@
-// Recognition of the five browser scripts the tab tracker sends. On this desktop no scripting
-// host runs them; each is recognised by its exact text and answered by whatever can stand in for
-// its target application.
+// Recognition of the five browser scripts the tab tracker sends (their texts are in
+// Tracking/BrowserScripts.h). On this desktop no scripting host runs them; each is recognised by its
+// exact text and answered by whatever can stand in for its target application.
 #pragma once
 
 #include <optional>

@@ -1,0 +1,238 @@
+#include "Tracking/SessionManager.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "CountingCategoryEngine.h"
+#include "ManualClock.h"
+#include "ManualMainQueue.h"
+#include "ManualTimerHub.h"
+#include "StatementTrace.h"
+#include "TempDir.h"
+
+namespace larkspan {
+namespace {
+
+using namespace test;
+
+RawActivity app(std::string name, std::optional<std::string> bundleID = std::nullopt,
+                std::optional<std::string> title = std::nullopt,
+                std::optional<std::string> domain = std::nullopt) {
+    RawActivity sample;
+    sample.appName = std::move(name);
+    sample.bundleID = std::move(bundleID);
+    sample.windowTitle = std::move(title);
+    sample.urlDomain = std::move(domain);
+    return sample;
+}
+
+RawActivity away(double idleSeconds) {
+    RawActivity sample = app(kAwayAppName, std::nullopt, kAwayTitle);
+    sample.isIdle = true;
+    sample.idleSeconds = idleSeconds;
+    return sample;
+}
+
+const RawActivity kKitty = app("kitty", "net.kovidgoyal.kitty", "~/src");  // Terminal at 0.99
+const RawActivity kMystery = app("Zqx", "org.example.Zqx");                // Other at 0.3: asks
+
+struct SessionManagerTest : ::testing::Test {
+    TempDir dir;
+    Database db{dir / "tracker.db"};
+    CountingCategoryEngine engine;
+    ManualClock clock;
+    const Date t0 = clock.now();
+    ManualMainQueue mainQueue;
+    ManualTimerHub timers{clock};
+    std::shared_ptr<SessionManager> manager = SessionManager::create(db, engine, clock, mainQueue, timers);
+
+    std::vector<std::optional<ActivityRecord>> sessions;
+    Subscription sessionSub =
+        manager->currentSession.subscribe([this](const auto& s) { sessions.push_back(s); });
+
+    SessionManagerTest() { sessions.clear(); }
+
+    // Lets `seconds` pass (heartbeats fire), then hands `sample` over and runs what it posted.
+    void after(double seconds, const RawActivity& sample) {
+        timers.advance(seconds);
+        manager->process(sample);
+        mainQueue.drain();
+    }
+    std::vector<ActivityRecord> rows() { return db.fetchActivities(0, 4e9); }
+};
+
+TEST_F(SessionManagerTest, EqualSamplesKeepOneRowWhoseEndMovesOnlyWithHeartbeats) {
+    after(0, kKitty);
+    ASSERT_EQ(rows().size(), 1u);
+    const ActivityRecord first = rows()[0];
+    EXPECT_EQ(first.startTime, t0);
+    EXPECT_EQ(first.categoryID, category_id::terminal);
+    EXPECT_EQ(first.confidence, 0.99);
+    EXPECT_TRUE(first.isApproved);
+    EXPECT_EQ(first.endTime, std::nullopt);  // younger than the first heartbeat
+    ASSERT_EQ(sessions.size(), 1u);
+    EXPECT_EQ(sessions[0], first);  // published with the id it was stored under
+
+    // 99 more samples, one a second, with other titles and addresses: no new row, no new category.
+    for (int i = 1; i < 100; ++i) {
+        RawActivity same = kKitty;
+        same.windowTitle = "vim notes-" + std::to_string(i);
+        same.url = "file:///" + std::to_string(i);
+        after(1, same);
+        const auto stored = rows();
+        ASSERT_EQ(stored.size(), 1u);
+        const int beats = i / 30;
+        EXPECT_EQ(stored[0].endTime, beats ? std::optional(t0 + 30.0 * beats) : std::nullopt) << i;
+        EXPECT_EQ(stored[0].durationSeconds, 30 * beats);
+        EXPECT_EQ(stored[0].windowTitle, "~/src");  // the first sample's texts stay
+    }
+    EXPECT_EQ(engine.calls(), 1);
+    EXPECT_EQ(sessions.size(), 1u);  // heartbeats do not touch the published session
+}
+
+TEST_F(SessionManagerTest, SessionsUnderFiveWholeSecondsAreDeletedAtClosing) {
+    // The first sample closes nothing; 4.99 s truncates to 4 and is dropped.
+    after(0, kKitty);
+    after(4.99, kMystery);
+    EXPECT_EQ(rows().size(), 1u);
+    EXPECT_EQ(rows()[0].appName, "Zqx");
+    // Exactly 5 s stays, with its end and duration.
+    after(5.0, away(130));
+    auto stored = rows();
+    ASSERT_EQ(stored.size(), 2u);
+    EXPECT_EQ(stored[0].durationSeconds, 5);
+    EXPECT_EQ(stored[0].endTime, t0 + 4.99 + 5.0);
+    // An away span under 5 s goes like any other.
+    after(3, kKitty);
+    ASSERT_EQ(rows().size(), 2u);
+    EXPECT_EQ(rows()[1].appName, "kitty");
+    // A clock set back puts the start in the future: a negative duration, under the minimum.
+    clock.advance(-3600);
+    after(0, kMystery);
+    stored = rows();
+    ASSERT_EQ(stored.size(), 2u);
+    for (const auto& row : stored)
+        EXPECT_EQ(row.appName, "Zqx");
+}
+
+TEST_F(SessionManagerTest, IdleSamplesAreOneAwaySpanWithoutClassification) {
+    after(0, away(121));
+    after(4, away(125));  // equal, however long the absence
+    after(400, away(4000));
+    const auto stored = rows();
+    ASSERT_EQ(stored.size(), 1u);
+    ActivityRecord expected = ActivityRecord::idle(t0);
+    expected.id = stored[0].id;
+    expected.endTime = t0 + 390;
+    expected.durationSeconds = 390;
+    EXPECT_EQ(stored[0], expected);
+    EXPECT_EQ(stored[0].categoryID, category_id::awayBreak);
+    EXPECT_EQ(engine.calls(), 0);
+}
+
+TEST_F(SessionManagerTest, PublishedValuesArriveThroughTheMainQueueSessionBeforeCount) {
+    mainQueue.drain();  // the count read at creation
+    std::vector<std::string> order;
+    auto countSub = manager->pendingApprovalCount.subscribe([&](std::int64_t count) {
+        order.push_back("count " + std::to_string(count));
+        if (count > 0) {  // the session it belongs to is already published, with its id
+            ASSERT_TRUE(manager->currentSession.get());
+            EXPECT_GT(manager->currentSession.get()->id, 0);
+        }
+    });
+    auto orderSub = manager->currentSession.subscribe(
+        [&](const auto& s) { order.push_back(s ? "session " + s->appName : "none"); });
+    order.clear();
+
+    manager->process(kMystery);
+    // Nothing is assigned inline, even on the main thread.
+    EXPECT_TRUE(order.empty());
+    EXPECT_EQ(manager->currentSession.get(), std::nullopt);
+    EXPECT_EQ(mainQueue.pendingCount(), 2u);
+    mainQueue.drain();
+    EXPECT_EQ(order, (std::vector<std::string>{"session Zqx", "count 1"}));
+    const auto& session = *manager->currentSession.get();
+    EXPECT_EQ(session.categoryID, category_id::other);
+    EXPECT_EQ(session.confidence, 0.3);
+    EXPECT_TRUE(session.needsApproval);
+    EXPECT_FALSE(session.isApproved);
+
+    // A confident session posts itself only.
+    manager->process(kKitty);
+    EXPECT_EQ(mainQueue.pendingCount(), 1u);
+}
+
+TEST_F(SessionManagerTest, PublishedCountRunsAheadOfTheStoresUntilRefreshed) {
+    after(0, kMystery);
+    EXPECT_EQ(manager->pendingApprovalCount.get(), 1);
+    EXPECT_EQ(db.pendingApprovalCount(), 0);  // younger than 30 s
+    after(30, kMystery);
+    EXPECT_EQ(db.pendingApprovalCount(), 1);  // the heartbeat made it 30 s long
+    // Another asking session, deleted as too short: published 2, stored 1.
+    after(1, app("Qzx"));
+    after(2, kKitty);
+    EXPECT_EQ(manager->pendingApprovalCount.get(), 2);
+    EXPECT_EQ(db.pendingApprovalCount(), 1);
+    manager->refreshApprovalCount();
+    EXPECT_EQ(manager->pendingApprovalCount.get(), 2);  // posted, not yet run
+    mainQueue.drain();
+    EXPECT_EQ(manager->pendingApprovalCount.get(), 1);
+}
+
+TEST_F(SessionManagerTest, SampleThatChangesNothingTouchesNeitherStoreNorEngine) {
+    after(0, kKitty);
+    const int calls = engine.calls();
+    StatementTrace trace(db);
+    for (int i = 0; i < 50; ++i) {
+        RawActivity same = kKitty;
+        same.windowTitle = std::string(static_cast<std::size_t>(i) * 1000, 'x');
+        same.url = "https://example.org/" + std::to_string(i);
+        manager->process(same);
+    }
+    EXPECT_TRUE(trace.take().empty());
+    EXPECT_EQ(engine.calls(), calls);
+    EXPECT_EQ(mainQueue.pendingCount(), 0u);
+
+    // A change costs one write to close and one to open: the catalogue is not read per sample.
+    after(6, kMystery);
+    const auto statements = trace.take();
+    ASSERT_EQ(statements.size(), 2u);
+    EXPECT_TRUE(statements[0].starts_with("UPDATE activities")) << statements[0];
+    EXPECT_TRUE(statements[1].starts_with("INSERT INTO activities")) << statements[1];
+    EXPECT_EQ(engine.calls(), calls + 1);
+}
+
+TEST_F(SessionManagerTest, CategoryGoneFromTheCatalogueStoresTheSessionUnderOther) {
+    db.deleteCategory(category_id::terminal);
+    db.deleteCategory(category_id::awayBreak);
+    manager->categoriesChanged();
+    after(0, kKitty);
+    after(10, away(200));
+    auto stored = rows();
+    ASSERT_EQ(stored.size(), 2u);
+    EXPECT_EQ(stored[0].categoryID, category_id::other);
+    EXPECT_EQ(stored[0].confidence, 0.99);  // the engine's, as it was sure of its answer
+    EXPECT_TRUE(stored[0].isApproved);
+    EXPECT_EQ(stored[1].categoryID, category_id::other);
+    EXPECT_TRUE(stored[1].isIdle());
+
+    // A category added later is used once the catalogue is read again.
+    Category focus;
+    focus.name = "Deep Work";
+    focus.colorHex = "#112233";
+    focus.icon = "x";
+    db.insertCategory(focus);
+    manager->categoriesChanged();
+    const auto categories = db.fetchCategories();
+    const auto added = std::find_if(categories.begin(), categories.end(), [](const Category& c) {
+                           return c.name == "Deep Work";
+                       })->id;
+    db.saveLearnedRule("app_name", "Zqx", added);
+    manager->refreshLearnedRules();
+    after(10, kMystery);
+    EXPECT_EQ(rows().back().categoryID, added);
+}
+
+}  // namespace
+}  // namespace larkspan

@@ -1,0 +1,230 @@
+// The whole road of a sample, headless: a scripted desktop is captured by the monitor on its own
+// queue, handed through the main queue to the session manager and stored in a real database file.
+// The test thread plays the main thread; the monitor and the store run their real serial queues.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <thread>
+
+#include "FakeScriptRunner.h"
+#include "FakeWorkspace.h"
+#include "ManualClock.h"
+#include "ManualMainQueue.h"
+#include "ManualTimerHub.h"
+#include "Platform/SerialQueue.h"
+#include "SqliteFile.h"
+#include "TempDir.h"
+#include "Tracking/ActivityMonitor.h"
+#include "Tracking/SessionManager.h"
+
+namespace larkspan {
+namespace {
+
+using namespace test;
+
+const RunningApplication kKitty{"net.kovidgoyal.kitty", "kitty", 10};  // Terminal, sure
+const RunningApplication kChrome{"com.google.Chrome", "Google Chrome", 20};
+const RunningApplication kZqx{"org.example.Zqx", "Zqx", 30};  // unknown: asks
+
+struct TrackingIntegrationTest : ::testing::Test {
+    TempDir dir;
+    ManualClock clock;
+    const Date t0 = clock.now();
+    ManualMainQueue mainQueue;
+    ManualTimerHub timers{clock};
+    FakeWorkspace workspace;
+    FakeScriptRunner scripts;
+    NotificationCenter notifications;
+    Database db{dir / "tracker.db"};
+    SqliteFile file{dir / "tracker.db"};
+    CategoryEngine engine;
+    SerialQueue bg{kMonitorQueueLabel};
+    std::shared_ptr<SessionManager> manager = SessionManager::create(db, engine, clock, mainQueue, timers);
+    std::shared_ptr<ActivityMonitor> monitor =
+        std::make_shared<ActivityMonitor>(workspace, scripts, clock, mainQueue, timers, notifications, bg);
+
+    const std::thread::id mainThread = std::this_thread::get_id();
+    int samples = 0;
+    int offMainAssignments = 0;
+    std::vector<double> returns;
+    std::vector<Subscription> subscriptions;
+
+    void SetUp() override {
+        // The wiring of the shell: each sample goes through the main queue to the manager.
+        subscriptions.push_back(monitor->currentActivity.subscribe([this](const auto& sample) {
+            countThread();
+            if (!sample)
+                return;
+            ++samples;
+            mainQueue.post([this, s = *sample] { manager->process(s); });
+        }));
+        subscriptions.push_back(manager->currentSession.subscribe([this](const auto&) { countThread(); }));
+        subscriptions.push_back(manager->pendingApprovalCount.subscribe([this](auto) { countThread(); }));
+        subscriptions.push_back(notifications.observe(userReturnedFromIdle, [this](const auto& payload) {
+            returns.push_back(payload.at(userReturnedFromIdleSecondsKey));
+        }));
+        scripts.answerAlways("https://docs.example.org/a|||Docs");
+        workspace.setRunning({kKitty, kChrome, kZqx});
+    }
+    void TearDown() override { EXPECT_EQ(offMainAssignments, 0); }
+
+    void countThread() {
+        if (std::this_thread::get_id() != mainThread)
+            ++offMainAssignments;
+    }
+    // Lets the captures queued so far finish, and runs what they posted, down to the store.
+    void settle() {
+        bg.sync([] {});
+        mainQueue.drain();
+    }
+    // Lets `seconds` pass in steps of at most one second, settling after each.
+    void run(double seconds) {
+        for (double left = seconds; left > 1e-9; left -= 1) {
+            timers.advance(std::min(left, 1.0));
+            settle();
+        }
+    }
+    void bringToFront(const RunningApplication& app) {
+        workspace.activate(app);
+        settle();
+    }
+    std::vector<ActivityRecord> rows() { return db.fetchActivities(0, 4e9); }
+};
+
+TEST_F(TrackingIntegrationTest, AHundredEqualSamplesMakeOneRowWhoseEndMovesOnlyWithHeartbeats) {
+    workspace.setFrontmost(kKitty);
+    workspace.setTitle(kKitty.pid, "~/src");
+    monitor->start();
+    settle();
+    for (int second = 1; second <= 400; ++second) {
+        if (second % 7 == 0)
+            workspace.setTitle(kKitty.pid, "vim " + std::to_string(second));
+        run(1);
+        const auto stored = rows();
+        ASSERT_EQ(stored.size(), 1u) << second;
+        const int beats = second / 30;
+        EXPECT_EQ(stored[0].endTime, beats ? std::optional(t0 + 30.0 * beats) : std::nullopt) << second;
+    }
+    EXPECT_EQ(samples, 101);  // at start, then every 4 seconds
+    const auto row = rows()[0];
+    EXPECT_EQ(row.startTime, t0);
+    EXPECT_EQ(row.durationSeconds, 390);
+    EXPECT_EQ(row.windowTitle, "~/src");
+    EXPECT_EQ(row.categoryID, category_id::terminal);
+}
+
+TEST_F(TrackingIntegrationTest, SwitchesAbsenceAndAnswersReachTheStore) {
+    workspace.setFrontmost(kKitty);
+    monitor->start();
+    run(10);
+    // A browser page of 4.99 s leaves no row; an application of exactly 5 s does.
+    bringToFront(kChrome);
+    EXPECT_EQ(rows().back().urlDomain, "docs.example.org");
+    EXPECT_EQ(manager->pendingApprovalCount.get(), 1);  // a browser on an unknown site asks
+    run(4.99);
+    bringToFront(kZqx);
+    run(5);
+    bringToFront(kKitty);
+    run(8);
+    auto stored = rows();
+    ASSERT_EQ(stored.size(), 3u);
+    EXPECT_EQ(stored[1].appName, "Zqx");
+    EXPECT_EQ(stored[1].durationSeconds, 5);
+    // The published count ran ahead: the deleted page and the young Zqx row are not pending in the store.
+    EXPECT_EQ(manager->pendingApprovalCount.get(), 2);
+    EXPECT_EQ(db.pendingApprovalCount(), 0);
+
+    // Away after 120 silent seconds in a terminal: one away row however long the silence grows.
+    workspace.setIdleSeconds(121);
+    run(4);
+    workspace.setIdleSeconds(125);
+    run(4);
+    workspace.setIdleSeconds(1500);
+    run(4);
+    EXPECT_TRUE(returns.empty());
+    workspace.setIdleSeconds(0.4);
+    run(4);
+    stored = rows();
+    ASSERT_EQ(stored.size(), 5u);
+    EXPECT_TRUE(stored[3].isIdle());
+    EXPECT_EQ(stored[3].categoryID, category_id::awayBreak);
+    EXPECT_EQ(stored[3].durationSeconds, 12);
+    EXPECT_EQ(stored[4].appName, "kitty");
+    // The return carries the length of the absence as last seen.
+    EXPECT_EQ(returns, std::vector<double>{1500});
+
+    // The answer teaches the engine; the next visit of that site does not ask.
+    manager->resolveApproval(stored[1].id, category_id::planning);
+    settle();
+    EXPECT_EQ(manager->pendingApprovalCount.get(), 0);
+    bringToFront(kZqx);
+    EXPECT_EQ(rows().back().categoryID, category_id::planning);
+    EXPECT_FALSE(rows().back().needsApproval);
+}
+
+TEST_F(TrackingIntegrationTest, RefusedInsertLeavesTheSessionUnstored) {
+    workspace.setFrontmost(kKitty);
+    monitor->start();
+    run(8);
+    file.exec("CREATE TRIGGER refuse BEFORE INSERT ON activities BEGIN SELECT RAISE(FAIL, 'disk'); END;");
+    bringToFront(kZqx);
+    run(40);
+    // The terminal's row was closed at the switch; the heartbeat has no row to write to since.
+    ASSERT_EQ(rows().size(), 1u);
+    EXPECT_EQ(rows()[0].endTime, t0 + 8);
+    EXPECT_EQ(manager->currentSession.get()->appName, "kitty");
+    EXPECT_EQ(manager->pendingApprovalCount.get(), 0);
+    // Once the store takes rows again, nothing is retried until the activity changes.
+    file.exec("DROP TRIGGER refuse;");
+    run(8);
+    EXPECT_EQ(rows().size(), 1u);
+    bringToFront(kKitty);
+    EXPECT_EQ(rows().size(), 2u);
+    EXPECT_EQ(manager->currentSession.get()->id, rows().back().id);
+}
+
+TEST_F(TrackingIntegrationTest, TextsOfAnySizeAndEncodingReachTheStoreUnchanged) {
+    const std::string title =
+        std::string(100'000, 'w') + "\xFF\xC3(\xED\xA0\x80 \xF0\x9F\x8D\x85 \xD7\xA9\xD7\x9C";
+    workspace.setFrontmost(kKitty);
+    workspace.setTitle(kKitty.pid, title);
+    monitor->start();
+    settle();
+    const std::string url =
+        "https://\xD9\x85\xD8\xAB\xD8\xA7\xD9\x84.example/\xFE?q=" + std::string(50'000, 'q');
+    scripts.answerAlways(url + "|||" + title);
+    run(5);
+    bringToFront(kChrome);
+    EXPECT_EQ(file.text("SELECT window_title FROM activities WHERE app_name='kitty'"), title);
+    EXPECT_EQ(file.text("SELECT url FROM activities WHERE app_name='Google Chrome'"), url);
+    EXPECT_EQ(file.text("SELECT window_title FROM activities WHERE app_name='Google Chrome'"), title);
+}
+
+TEST_F(TrackingIntegrationTest, HangingBrowserScriptHoldsUpOnlyTheMonitorQueue) {
+    workspace.setFrontmost(kKitty);
+    monitor->start();
+    run(8);
+    scripts.hold();
+    workspace.activate(kChrome);
+    scripts.waitUntilBlocked();
+
+    // The main thread goes on: timers fire, the heartbeat reaches the store, answers are handled.
+    const int before = samples;
+    timers.advance(40);
+    mainQueue.drain();
+    EXPECT_EQ(rows()[0].endTime, t0 + 30);
+    manager->resolveApproval(rows()[0].id, category_id::coding);
+    EXPECT_EQ(db.fetchActivity(rows()[0].id)->categoryID, category_id::coding);
+    EXPECT_EQ(samples, before);  // while captures wait their turn
+
+    // Released, the queued captures run in order and the browser session opens.
+    scripts.release();
+    settle();
+    EXPECT_EQ(samples, before + 1 + 10);
+    ASSERT_EQ(rows().size(), 2u);
+    EXPECT_EQ(rows()[1].urlDomain, "docs.example.org");
+    EXPECT_EQ(rows()[1].startTime, t0 + 48);
+}
+
+}  // namespace
+}  // namespace larkspan
