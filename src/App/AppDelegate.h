@@ -95,7 +95,7 @@ private:
     AppEnvironment env_;
     CategoryEngine categoryEngine_;
     std::shared_ptr<ActivityMonitor> activityMonitor_;
-    std::unique_ptr<SessionManager> sessionManager_;
+    std::shared_ptr<SessionManager> sessionManager_;
     std::unique_ptr<PomodoroTimer> pomodoroTimer_;
     std::unique_ptr<MenuBarController> menuBarController_;
     std::vector<Subscription> cancellables_;

@@ -101,6 +101,12 @@ TEST_F(AppDelegateTest, NoPendingRecordSpendsNothing) {
     EXPECT_EQ(presenter.approvals.size(), 1u);
 }
 
+TEST_F(AppDelegateTest, TheMenusDashboardEntryClosesThePopoverThenOpensTheDashboard) {
+    launch();
+    app->menuBarController()->menuOpenDashboard();
+    EXPECT_EQ(presenter.calls, (std::vector<std::string>{"closePopover", "openDashboard"}));
+}
+
 TEST_F(AppDelegateTest, AReturnPromptsOnlyAfterMoreThanFiveMinutesAndSharesTheLimit) {
     launch();
     notifications.post(userReturnedFromIdle, {});
