@@ -19,7 +19,7 @@ build: deps
 	cmake --build $(BUILD_DIR) -j $(JOBS)
 
 run: build
-	@echo "Larkspan's core is built. The tray application arrives with a later change; nothing to start yet."
+	$(BUILD_DIR)/src/larkspan
 
 # The core tests once more under AddressSanitizer and UndefinedBehaviorSanitizer.
 test-sanitize: deps
@@ -36,6 +36,7 @@ bench: deps
 	cmake -S . -B $(BENCH_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Release -DLARKSPAN_BENCH=ON $(CMAKE_FLAGS)
 	cmake --build $(BENCH_DIR) -j $(JOBS)
 	@set -e; for b in $(BENCH_DIR)/bench/bench_*; do echo "== $$(basename $$b)"; $$b $(BENCH_ARGS); done
+	@echo "== footprint"; bench/footprint.sh $(BENCH_DIR)/src/larkspan
 
 # The tracking road once more under ThreadSanitizer.
 tsan: deps

@@ -46,6 +46,13 @@ public:
         record_.categoryID = id;
         return *this;
     }
+    // Waiting for the user's answer.
+    ActivityBuilder& pending(double confidence) {
+        record_.confidence = confidence;
+        record_.needsApproval = true;
+        record_.isApproved = false;
+        return *this;
+    }
     // Still running: no end time yet, only the duration of the last heartbeat.
     ActivityBuilder& open() {
         record_.endTime.reset();

@@ -4,25 +4,6 @@
 
 namespace larkspan {
 
-namespace {
-
-const char* const kOpenDashboard = "Open Dashboard";
-const char* const kQuit = "Quit Larkspan";
-
-QString reviewTitle(qint64 count) {
-    return QStringLiteral("Review %1 Pending\u2026").arg(count);
-}
-
-}  // namespace
-
-QStringList TrayIcon::menuTitles(qint64 pendingCount) {
-    QStringList titles{kOpenDashboard};
-    if (pendingCount > 0)
-        titles << reviewTitle(pendingCount);
-    titles << QString() << kQuit;  // the empty entry is the separator
-    return titles;
-}
-
 TrayIcon::TrayIcon(QObject* parent) : QObject(parent) {
     icon_.setContextMenu(&menu_);
     connect(&menu_, &QMenu::aboutToShow, this, &TrayIcon::rebuildMenu);
@@ -30,7 +11,6 @@ TrayIcon::TrayIcon(QObject* parent) : QObject(parent) {
         if (reason == QSystemTrayIcon::Trigger)
             emit popoverToggleRequested();
     });
-    rebuildMenu();
 
     // Hosts announce themselves without telling clients; a slow poll is cheap and only runs while
     // there is none.
@@ -43,7 +23,6 @@ void TrayIcon::update(const StatusTitle& title) {
     const TrayIconContent content{QString::fromStdString(title.icon), static_cast<int>(title.pendingCount),
                                   title.timerMark ? QString::fromStdString(*title.timerMark) : QString(),
                                   title.timerPaused};
-    pendingCount_ = title.pendingCount;
     // The timer ticks twice a second; redraw the icon only when its picture changes.
     if (icon_.icon().isNull() || !(content == shownContent_)) {
         shownContent_ = content;
@@ -52,16 +31,31 @@ void TrayIcon::update(const StatusTitle& title) {
     icon_.setToolTip(QString::fromStdString(title.plainText()));
 }
 
+void TrayIcon::setMenuItems(std::function<std::vector<MenuItem>()> items) {
+    menuItems_ = std::move(items);
+    rebuildMenu();
+}
+
 void TrayIcon::rebuildMenu() {
     menu_.clear();
-    for (const QString& title : menuTitles(pendingCount_)) {
-        if (title.isEmpty()) {
-            menu_.addSeparator();
-        } else if (title == kQuit) {
-            menu_.addAction(title, this, &TrayIcon::quitRequested);
-        } else {
-            menu_.addAction(title, this, &TrayIcon::openDashboardRequested);
+    if (!menuItems_)
+        return;
+    for (const auto& item : menuItems_()) {
+        const auto title = QString::fromStdString(item.title);
+        QAction* action = nullptr;
+        switch (item.action) {
+            case MenuItem::Action::separator:
+                menu_.addSeparator();
+                continue;
+            case MenuItem::Action::openDashboard:
+                action = menu_.addAction(title, this, &TrayIcon::openDashboardRequested);
+                break;
+            case MenuItem::Action::quit:
+                action = menu_.addAction(title, this, &TrayIcon::quitRequested);
+                break;
         }
+        if (!item.keyEquivalent.empty())
+            action->setShortcut(QKeySequence(QStringLiteral("Ctrl+") + QString::fromStdString(item.keyEquivalent).toUpper()));
     }
 }
 

@@ -8,6 +8,10 @@
 #include <QSystemTrayIcon>
 #include <QTimer>
 
+#include <functional>
+#include <vector>
+
+#include "App/MenuBarController.h"
 #include "App/StatusTitle.h"
 #include "App/ui/TrayIconPainter.h"
 
@@ -24,8 +28,8 @@ public:
     QRect geometry() const { return icon_.geometry(); }
     const QMenu& menu() const { return menu_; }
 
-    // The menu's entries for a pending count, rebuilt each time the menu opens.
-    static QStringList menuTitles(qint64 pendingCount);
+    // Where the menu's entries come from; asked each time the menu opens.
+    void setMenuItems(std::function<std::vector<MenuItem>()> items);
 
 signals:
     void popoverToggleRequested();
@@ -42,7 +46,7 @@ private:
     QMenu menu_;
     QTimer hostWatch_;
     TrayIconContent shownContent_;
-    qint64 pendingCount_ = 0;
+    std::function<std::vector<MenuItem>()> menuItems_;
     bool reportedNoHost_ = false;
 };
 

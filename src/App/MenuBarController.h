@@ -1,0 +1,63 @@
+// The tray's logic: keeps the status title current with the session, the pending count and the
+// Pomodoro timer, and says what the context menu holds. The shell draws both and reports clicks.
+//
+// Threads: main thread only; the subscriptions are fed by values assigned on the main thread.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "App/AppPresenter.h"
+#include "Data/Database.h"
+#include "Focus/PomodoroTimer.h"
+#include "Platform/MainQueue.h"
+#include "Platform/Subscription.h"
+#include "Tracking/SessionManager.h"
+
+namespace larkspan {
+
+class AppDelegate;
+
+struct MenuItem {
+    enum class Action { openDashboard, quit, separator };
+    std::string title;          // empty for the separator
+    std::string keyEquivalent;  // "d", "q" or none
+    Action action = Action::separator;
+    bool operator==(const MenuItem&) const = default;
+};
+
+class MenuBarController {
+public:
+    // Draws "⏱ Starting…" at once, then subscribes to the four values that change the title.
+    MenuBarController(SessionManager& sessionManager, Database& database, PomodoroTimer& pomodoroTimer,
+                      std::weak_ptr<AppDelegate> delegate, AppPresenter& presenter, MainQueue& mainQueue);
+
+    MenuBarController(const MenuBarController&) = delete;
+    MenuBarController& operator=(const MenuBarController&) = delete;
+
+    // Rebuilds the whole title, reading the categories from the store each time.
+    void updateButton(const std::optional<ActivityRecord>& session, std::int64_t pendingCount);
+
+    // A new menu for each right click: the review entry only while activities are pending.
+    std::vector<MenuItem> contextMenuItems() const;
+    // Both dashboard entries, and the popover's own button: close the popover, open the dashboard.
+    void menuOpenDashboard();
+
+private:
+    void setup();
+    void refresh();
+
+    SessionManager& sessionManager_;
+    Database& database_;
+    PomodoroTimer& pomodoroTimer_;
+    std::weak_ptr<AppDelegate> delegate_;
+    AppPresenter& presenter_;
+    MainQueue& mainQueue_;
+    std::shared_ptr<char> lifetime_ = std::make_shared<char>();  // posted work checks it is alive
+    std::vector<Subscription> cancellables_;
+};
+
+}  // namespace larkspan

@@ -1,0 +1,27 @@
+#include "App/ui/QtAppPresenter.h"
+
+#include <QDebug>
+
+namespace larkspan {
+
+void QtAppPresenter::showApprovalPopup(const ActivityRecord& record, const std::vector<Category>&,
+                                       const std::vector<std::int64_t>& topCategoryIDs, ApprovalAnswer) {
+    qInfo().noquote() << "Larkspan: approval prompt for" << QString::fromStdString(record.displayTitle())
+                      << "offering" << topCategoryIDs.size() << "categories";
+}
+
+void QtAppPresenter::closeApprovalPopup() {}
+
+void QtAppPresenter::showReturnFromIdlePopup(double idleDuration, IdleAnswer) {
+    qInfo().noquote() << "Larkspan: welcome-back prompt for" << qRound64(idleDuration) << "seconds away";
+}
+
+void QtAppPresenter::closeIdlePopup() {}
+
+void QtAppPresenter::openDashboard() { qInfo().noquote() << "Larkspan: dashboard requested"; }
+
+void QtAppPresenter::showStatusTitle(const StatusTitle& title) { tray_.update(title); }
+
+void QtAppPresenter::closePopover() {}
+
+}  // namespace larkspan

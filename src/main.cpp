@@ -1,0 +1,91 @@
+// Larkspan's entry: one tracker per session, the store, the desktop behind the seams, the delegate
+// that wires them, and the Qt event loop until the menu's Quit or SIGTERM/SIGINT.
+#include <QApplication>
+
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+#include "App/AppDelegate.h"
+#include "App/ui/QtAppPresenter.h"
+#include "App/ui/SingleInstance.h"
+#include "App/ui/TerminationSignals.h"
+#include "Data/Database.h"
+#include "Platform/Linux/AppIdentity.h"
+#include "Platform/Linux/CanberraSoundPlayer.h"
+#include "Platform/Linux/DesktopEntries.h"
+#include "Platform/Linux/LinuxScriptRunner.h"
+#include "Platform/Linux/SessionEnvironment.h"
+#include "Platform/Linux/X11Workspace.h"
+#include "Platform/Qt/DBusNotifier.h"
+#include "Platform/Qt/QtMainQueue.h"
+#include "Platform/Qt/QtRepeatingTimer.h"
+#include "Platform/Qt/SettingsStore.h"
+#include "Platform/SerialQueue.h"
+
+using namespace larkspan;
+
+namespace {
+
+// Without any display Qt would abort with a long plugin message; say what is wrong instead.
+bool hasDisplay() {
+    auto set = [](const char* name) {
+        const char* value = std::getenv(name);
+        return value && *value;
+    };
+    return set("DISPLAY") || set("WAYLAND_DISPLAY") || set("QT_QPA_PLATFORM");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (!hasDisplay()) {
+        std::fputs("Larkspan needs a graphical session: neither DISPLAY nor WAYLAND_DISPLAY is set.\n", stderr);
+        return 1;
+    }
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Larkspan"));
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    SingleInstance instance;
+    if (!instance.claim()) {
+        if (!instance.notifyRunningInstance())
+            std::fputs("Larkspan is already running but did not answer.\n", stderr);
+        return 0;
+    }
+
+    Database& database = Database::shared();
+
+    const auto session = SessionEnvironment::fromProcess();
+    auto mainQueue = std::make_shared<QtMainQueue>(&app);
+    auto notifier = std::make_shared<DBusNotifier>();
+    auto entries = std::make_shared<DesktopEntries>(session.applicationDirs, session.localeKeys);
+    auto workspace =
+        std::make_shared<X11Workspace>(session, std::make_shared<AppIdentity>(entries), mainQueue, notifier);
+    LinuxScriptRunner scripts(workspace);
+    SystemClock clock;
+    QtRepeatingTimer timers;
+    SettingsStore defaults;
+    CanberraSoundPlayer sounds;
+    NotificationCenter notifications;
+    SerialQueue monitorQueue(kMonitorQueueLabel);
+    QtAppPresenter presenter;
+
+    auto delegate = std::make_shared<AppDelegate>(
+        database, AppEnvironment{clock, *mainQueue, timers, defaults, sounds, *notifier, notifications, *workspace,
+                                 scripts, monitorQueue, presenter});
+
+    TrayIcon& tray = presenter.tray();
+    tray.setMenuItems([&delegate] { return delegate->menuBarController()->contextMenuItems(); });
+    QObject::connect(&tray, &TrayIcon::openDashboardRequested,
+                     [&delegate] { delegate->menuBarController()->menuOpenDashboard(); });
+    QObject::connect(&tray, &TrayIcon::quitRequested, &app, &QApplication::quit);
+    QObject::connect(&instance, &SingleInstance::activationRequested, [&delegate] { delegate->openDashboard(); });
+    TerminationSignals terminationSignals;
+    QObject::connect(&terminationSignals, &TerminationSignals::terminationRequested, &app, &QApplication::quit);
+
+    delegate->applicationDidFinishLaunching();
+    const int status = QApplication::exec();
+    delegate->applicationWillTerminate();
+    return status;
+}

@@ -1,0 +1,279 @@
+// The application's wiring and its prompt arbitration, headless: fakes for the desktop and the
+// shell, a real store in a temporary folder, and a manual clock and main queue.
+#include "App/AppDelegate.h"
+
+#include <gtest/gtest.h>
+
+#include "ActivityBuilder.h"
+#include "FakeScriptRunner.h"
+#include "FakeWorkspace.h"
+#include "ManualClock.h"
+#include "ManualMainQueue.h"
+#include "ManualTimerHub.h"
+#include "MemoryKeyValueStore.h"
+#include "Platform/SerialQueue.h"
+#include "RecordingNotifier.h"
+#include "RecordingPresenter.h"
+#include "RecordingSoundPlayer.h"
+#include "TempDir.h"
+
+namespace larkspan {
+namespace {
+
+using namespace test;
+
+constexpr Date kStart = 1'790'000'000;  // 2026-09-21, a Monday
+const RunningApplication kTerminal{"org.gnome.Terminal", "Terminal", 10};
+
+struct AppDelegateTest : ::testing::Test {
+    TempDir dir;
+    Database database{dir.path() / "tracker.db"};
+    ManualClock clock{kStart};
+    ManualMainQueue mainQueue;
+    ManualTimerHub timers{clock};
+    MemoryKeyValueStore defaults;
+    RecordingSoundPlayer sounds;
+    RecordingNotifier notifier;
+    NotificationCenter notifications;
+    FakeWorkspace workspace;
+    FakeScriptRunner scripts;
+    SerialQueue monitorQueue{kMonitorQueueLabel};
+    RecordingPresenter presenter;
+    std::shared_ptr<AppDelegate> app;
+
+    std::shared_ptr<AppDelegate> launch() {
+        app = std::make_shared<AppDelegate>(database, AppEnvironment{clock, mainQueue, timers, defaults, sounds, notifier,
+                                                                     notifications, workspace, scripts, monitorQueue,
+                                                                     presenter});
+        app->applicationDidFinishLaunching();
+        settle();
+        return app;
+    }
+    // Lets captures finish and runs everything they and their followers posted.
+    void settle() {
+        do {
+            monitorQueue.sync([] {});
+        } while (mainQueue.drain() > 0);
+    }
+    std::int64_t insertPending(Date start, std::string app = "Mystery") {
+        return database.insertActivity(ActivityBuilder(0, start, 30).app(std::move(app)).pending(0.3));
+    }
+    std::int64_t insertAway(Date start, std::int64_t seconds) {
+        return database.insertActivity(ActivityBuilder::away(0, start, seconds));
+    }
+    ActivityRecord row(std::int64_t id) { return database.fetchActivity(id).value(); }
+
+    ~AppDelegateTest() override {
+        if (app)
+            app->applicationWillTerminate();
+    }
+};
+
+TEST_F(AppDelegateTest, TheFirstPendingSessionPromptsAtOnceThenTheLimitHoldsForTenMinutes) {
+    const auto pending = insertPending(kStart - 3600);
+    workspace.setFrontmost(kTerminal);
+    launch();
+    // The monitor's first capture became a session, and its publication found the pending row.
+    ASSERT_TRUE(app->sessionManager()->currentSession.get());
+    ASSERT_EQ(presenter.approvals.size(), 1u);
+    EXPECT_EQ(presenter.approvals[0].record.id, pending);
+
+    for (const double later : {599.0, 600.0}) {
+        clock.set(kStart + later);
+        app->maybeShowApprovalPopup();
+        EXPECT_EQ(presenter.approvals.size(), 1u) << later;
+    }
+    clock.set(kStart + 601);
+    presenter.calls.clear();
+    app->maybeShowApprovalPopup();
+    ASSERT_EQ(presenter.approvals.size(), 2u);
+    // A popup still open is ordered out before the next one shows.
+    EXPECT_EQ(presenter.calls, (std::vector<std::string>{"closeApproval", "showApproval"}));
+}
+
+TEST_F(AppDelegateTest, NoPendingRecordSpendsNothing) {
+    launch();
+    app->maybeShowApprovalPopup();
+    EXPECT_TRUE(presenter.approvals.empty());
+    EXPECT_TRUE(app->canShowPopup());
+    insertPending(kStart - 600);
+    app->maybeShowApprovalPopup();
+    EXPECT_EQ(presenter.approvals.size(), 1u);
+}
+
+TEST_F(AppDelegateTest, TheMenusDashboardEntryClosesThePopoverThenOpensTheDashboard) {
+    launch();
+    app->menuBarController()->menuOpenDashboard();
+    EXPECT_EQ(presenter.calls, (std::vector<std::string>{"closePopover", "openDashboard"}));
+}
+
+TEST_F(AppDelegateTest, AReturnPromptsOnlyAfterMoreThanFiveMinutesAndSharesTheLimit) {
+    launch();
+    notifications.post(userReturnedFromIdle, {});
+    notifications.post(userReturnedFromIdle, {{userReturnedFromIdleSecondsKey, 300.0}});
+    EXPECT_TRUE(presenter.idlePrompts.empty());
+    notifications.post(userReturnedFromIdle, {{userReturnedFromIdleSecondsKey, 300.5}});
+    ASSERT_EQ(presenter.idlePrompts.size(), 1u);
+    EXPECT_EQ(presenter.idlePrompts[0].idleDuration, 300.5);
+
+    // The welcome-back prompt spent the limit for both kinds.
+    insertPending(kStart - 600);
+    app->maybeShowApprovalPopup();
+    notifications.post(userReturnedFromIdle, {{userReturnedFromIdleSecondsKey, 4000.0}});
+    EXPECT_TRUE(presenter.approvals.empty());
+    EXPECT_EQ(presenter.idlePrompts.size(), 1u);
+}
+
+TEST_F(AppDelegateTest, TheIdleAnswerLandsOnTheLastAwayRowInsideItsWindow) {
+    launch();
+    const double idle = 1200;
+    clock.set(kStart + 5000);
+    const Date now = clock.now();
+    const auto before = insertAway(now - idle - 61, 20);   // a minute and a second too early
+    const auto inside = insertAway(now - idle - 55, idle);  // seen as idle a little after it began
+    const auto work = insertPending(now - 30, "Editor");   // after the return
+    notifications.post(userReturnedFromIdle, {{userReturnedFromIdleSecondsKey, idle}});
+    ASSERT_EQ(presenter.idlePrompts.size(), 1u);
+    presenter.calls.clear();
+    presenter.idlePrompts[0].onResolve(category_id::communication);
+
+    EXPECT_EQ(row(inside).categoryID, category_id::communication);
+    EXPECT_TRUE(row(inside).isApproved);
+    EXPECT_EQ(row(before).categoryID, category_id::awayBreak);
+    EXPECT_FALSE(row(work).isApproved);
+    EXPECT_EQ(presenter.calls, (std::vector<std::string>{"closeIdle"}));
+
+    // With no away row in the window nothing changes, and the prompt still closes.
+    clock.advance(3 * 3600);
+    app->showReturnFromIdlePopup(600);
+    presenter.calls.clear();
+    presenter.idlePrompts.back().onResolve(category_id::communication);
+    EXPECT_EQ(row(before).categoryID, category_id::awayBreak);
+    EXPECT_EQ(presenter.calls, (std::vector<std::string>{"closeIdle"}));
+}
+
+TEST_F(AppDelegateTest, AnApprovalAnswerResolvesAndAnAbsentAnswerLeavesTheActivityPending) {
+    launch();
+    const auto first = insertPending(kStart - 900, "Mystery");
+    app->showApprovalPopup(row(first));
+    presenter.calls.clear();
+    presenter.approvals.back().onResolve(std::nullopt);
+    EXPECT_FALSE(row(first).isApproved);
+    EXPECT_EQ(presenter.calls, (std::vector<std::string>{"closeApproval"}));
+
+    presenter.approvals.back().onResolve(category_id::coding);
+    EXPECT_TRUE(row(first).isApproved);
+    EXPECT_EQ(row(first).categoryID, category_id::coding);
+    // No next popup is chained.
+    EXPECT_EQ(presenter.approvals.size(), 1u);
+
+    // A callback that outlives the delegate does nothing.
+    auto answer = presenter.approvals.back().onResolve;
+    app->applicationWillTerminate();
+    app.reset();
+    presenter.calls.clear();
+    answer(category_id::communication);
+    EXPECT_TRUE(presenter.calls.empty());
+}
+
+TEST_F(AppDelegateTest, ThePopupOffersTheUsersSixMostUsedCategoriesFilledUpWithDefaults) {
+    launch();
+    const auto pending = insertPending(kStart - 100);
+    app->showApprovalPopup(row(pending));
+    EXPECT_EQ(presenter.approvals.back().topCategoryIDs, (std::vector<std::int64_t>{1, 4, 6, 10, 16, 17}));
+
+    Category custom = Category::seeded().front();
+    custom.id = 99;
+    custom.name = "Gardening";
+    database.insertCategory(custom);
+    auto approved = [&](std::int64_t category, int times) {
+        for (int i = 0; i < times; ++i) {
+            auto id = database.insertActivity(ActivityBuilder(0, kStart - 7200 + i, 10).category(category));
+            database.updateActivityCategory(id, category, true);
+        }
+    };
+    approved(4, 3);
+    approved(99, 2);
+    app->showApprovalPopup(row(pending));
+    EXPECT_EQ(presenter.approvals.back().topCategoryIDs, (std::vector<std::int64_t>{4, 99, 1, 6, 10, 16}));
+
+    for (std::int64_t id : {2, 3, 5, 7, 8, 9})
+        approved(id, 1);
+    app->showApprovalPopup(row(pending));
+    EXPECT_EQ(presenter.approvals.back().topCategoryIDs.size(), 6u);
+    EXPECT_EQ(presenter.approvals.back().topCategoryIDs[0], 4);
+}
+
+TEST_F(AppDelegateTest, AFinishedFocusSessionCreditsItsTaskAndTheDayAndEveryEndNotifies) {
+    launch();
+    auto& timer = *app->pomodoroTimer();
+    const auto task = database.insertTodo("Write the report", clock.now());
+    auto dayCount = [&] {
+        const auto counts = database.fetchDailyPomoCounts(clock.now() - 86400, clock.now() + 86400);
+        return counts.empty() ? 0 : counts.begin()->second;
+    };
+    auto taskPomos = [&] { return database.fetchTodayTodos(clock.now()).at(0).pomodoroCount; };
+
+    timer.onSessionComplete(PomodoroMode::focus, task);
+    EXPECT_EQ(taskPomos(), 1);
+    EXPECT_EQ(dayCount(), 1);
+
+    timer.onSessionComplete(PomodoroMode::focus, std::nullopt);
+    EXPECT_EQ(taskPomos(), 1);
+    EXPECT_EQ(dayCount(), 2);
+
+    timer.onSessionComplete(PomodoroMode::shortBreak, task);
+    timer.onSessionComplete(PomodoroMode::longBreak, std::nullopt);
+    EXPECT_EQ(taskPomos(), 1);
+    EXPECT_EQ(dayCount(), 2);
+
+    ASSERT_EQ(notifier.sent.size(), 4u);
+    EXPECT_EQ(notifier.sent[0].title, "\U0001F345 Focus session complete!");
+    EXPECT_EQ(notifier.sent[0].body, "Great work! Time for a break.");
+    EXPECT_EQ(notifier.sent[2].title, "\u2615 Short break over");
+    EXPECT_EQ(notifier.sent[2].body, "Ready to focus again?");
+    EXPECT_EQ(notifier.sent[3].title, "\U0001F33F Long break over");
+    EXPECT_EQ(notifier.sent[3].body, "Recharged and ready to go!");
+    // Each notification is new, never a replacement of the last.
+    EXPECT_NE(notifier.sent[0].id, notifier.sent[1].id);
+    EXPECT_EQ(notifier.sent[0].id.size(), 36u);
+}
+
+TEST_F(AppDelegateTest, TheWindowAccessPromptShowsAtMostOnceInSevenDays) {
+    const Date week = AppDelegate::accessibilityPromptInterval;
+    struct Case {
+        const char* what;
+        bool granted;
+        std::optional<double> stored;
+        bool prompts;
+    };
+    const Case cases[] = {
+        {"granted: the date is neither read nor written", true, kStart - 10, false},
+        {"never asked", false, std::nullopt, true},
+        {"asked exactly seven days ago", false, kStart - week, true},
+        {"asked a second less than seven days ago", false, kStart - week + 1, false},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        defaults.values.clear();
+        if (c.stored)
+            defaults.setReal(kLastAccessibilityPromptDateKey, *c.stored);
+        workspace.setCanReadWindows(c.granted);
+        const int promptsBefore = workspace.windowAccessPrompts();
+        launch();
+        app->applicationWillTerminate();
+        EXPECT_EQ(workspace.windowAccessPrompts() - promptsBefore, c.prompts ? 1 : 0);
+        const auto stored = defaults.real(kLastAccessibilityPromptDateKey);
+        EXPECT_EQ(stored, c.prompts ? std::optional<double>(kStart) : c.stored);
+    }
+    // A value that is not a date counts as none.
+    defaults.values.clear();
+    defaults.setText(kLastAccessibilityPromptDateKey, "yesterday");
+    workspace.setCanReadWindows(false);
+    const int promptsBefore = workspace.windowAccessPrompts();
+    launch();
+    EXPECT_EQ(workspace.windowAccessPrompts(), promptsBefore + 1);
+}
+
+}  // namespace
+}  // namespace larkspan

@@ -1,0 +1,93 @@
+// The tray's controller: which values redraw the title, through the main queue, and what the menu
+// offers. The title's own rules are tested with buildStatusTitle.
+#include "App/MenuBarController.h"
+
+#include <gtest/gtest.h>
+
+#include "ActivityBuilder.h"
+#include "ManualClock.h"
+#include "ManualMainQueue.h"
+#include "ManualTimerHub.h"
+#include "MemoryKeyValueStore.h"
+#include "RecordingPresenter.h"
+#include "RecordingSoundPlayer.h"
+#include "TempDir.h"
+
+namespace larkspan {
+namespace {
+
+using namespace test;
+
+struct MenuBarControllerTest : ::testing::Test {
+    TempDir dir;
+    Database database{dir.path() / "tracker.db"};
+    CategoryEngine engine;
+    ManualClock clock{1'790'000'000};
+    ManualMainQueue mainQueue;
+    ManualTimerHub timers{clock};
+    MemoryKeyValueStore defaults;
+    RecordingSoundPlayer sounds;
+    RecordingPresenter presenter;
+    std::shared_ptr<SessionManager> sessions = SessionManager::create(database, engine, clock, mainQueue, timers);
+    PomodoroTimer timer{clock, defaults, sounds, timers};
+
+    std::string lastTitle() const { return presenter.titles.back().plainText(); }
+};
+
+TEST_F(MenuBarControllerTest, DrawsStartingAtOnceThenRedrawsForEachValueThroughTheMainQueue) {
+    mainQueue.drain();
+    MenuBarController controller(*sessions, database, timer, {}, presenter, mainQueue);
+    ASSERT_EQ(presenter.titles.size(), 1u);
+    EXPECT_EQ(lastTitle(), "\u23F1 Starting\u2026");
+
+    // Every subscription delivers its first value, each later on the main thread.
+    mainQueue.drain();
+    EXPECT_EQ(presenter.titles.size(), 5u);
+
+    sessions->currentSession.set(ActivityBuilder(1, clock.now(), 0).app("Terminal").category(1));
+    EXPECT_EQ(presenter.titles.size(), 5u);
+    mainQueue.drain();
+    EXPECT_EQ(lastTitle(), "\U0001F4BB Coding");
+
+    sessions->pendingApprovalCount.set(3);
+    mainQueue.drain();
+    EXPECT_EQ(lastTitle(), "\U0001F4BB Coding  3 \u25CF");
+
+    timer.start();
+    mainQueue.drain();
+    EXPECT_EQ(lastTitle(), "\U0001F4BB Coding  \U0001F345 25:00  3 \u25CF");
+    timer.pause();
+    mainQueue.drain();
+    EXPECT_EQ(lastTitle(), "\U0001F4BB Coding  \U0001F345\u23F8 25:00  3 \u25CF");
+}
+
+TEST_F(MenuBarControllerTest, TheMenuOffersReviewOnlyWhileActivitiesArePending) {
+    MenuBarController controller(*sessions, database, timer, {}, presenter, mainQueue);
+    const MenuItem dashboard{"Open Dashboard", "d", MenuItem::Action::openDashboard};
+    const MenuItem separator{"", "", MenuItem::Action::separator};
+    const MenuItem quit{"Quit Larkspan", "q", MenuItem::Action::quit};
+    mainQueue.drain();
+    EXPECT_EQ(controller.contextMenuItems(), (std::vector<MenuItem>{dashboard, separator, quit}));
+
+    sessions->pendingApprovalCount.set(12);
+    mainQueue.drain();
+    const MenuItem review{"Review 12 Pending\u2026", "", MenuItem::Action::openDashboard};
+    EXPECT_EQ(controller.contextMenuItems(), (std::vector<MenuItem>{dashboard, review, separator, quit}));
+}
+
+TEST_F(MenuBarControllerTest, WorkPostedForAControllerThatIsGoneDoesNothing) {
+    {
+        MenuBarController controller(*sessions, database, timer, {}, presenter, mainQueue);
+        // Without a delegate the dashboard entry only closes the popover.
+        controller.menuOpenDashboard();
+        EXPECT_EQ(presenter.calls, (std::vector<std::string>{"closePopover"}));
+    }
+    const auto drawn = presenter.titles.size();
+    mainQueue.drain();
+    sessions->pendingApprovalCount.set(1);
+    mainQueue.drain();
+    EXPECT_EQ(presenter.titles.size(), drawn);
+}
+
+}  // namespace
+}  // namespace larkspan

@@ -1,0 +1,79 @@
+# A private desktop for running the real tracker: Xvfb, a session bus, openbox and a tray host, with
+# HOME and the XDG folders in a temporary directory. Source it, call start_desktop, and the trap
+# takes everything down again.
+
+e2e_root=$(mktemp -d "${TMPDIR:-/tmp}/larkspan-e2e.XXXXXX")
+e2e_pids=()
+
+fail() {
+    echo "FAIL: $*" >&2
+    if [ -s "$e2e_root/larkspan.log" ]; then
+        echo "--- tracker output ---" >&2
+        tail -n 40 "$e2e_root/larkspan.log" >&2
+    fi
+    exit 1
+}
+
+stop_desktop() {
+    local pid
+    for pid in "${e2e_pids[@]}"; do
+        kill "$pid" 2>/dev/null || true
+    done
+    wait 2>/dev/null || true
+    rm -rf "$e2e_root"
+}
+trap stop_desktop EXIT
+
+# Runs a command in the background for the rest of the test.
+background() {
+    "$@" >>"$e2e_root/desktop.log" 2>&1 &
+    e2e_pids+=("$!")
+}
+
+# wait_until SECONDS COMMAND...: polls every 0.1 s until the command succeeds.
+wait_until() {
+    local deadline=$((SECONDS + $1))
+    shift
+    until "$@" >/dev/null 2>&1; do
+        [ "$SECONDS" -lt "$deadline" ] || return 1
+        sleep 0.1
+    done
+}
+
+start_desktop() {
+    export HOME="$e2e_root/home" XDG_DATA_HOME="$e2e_root/data" XDG_CONFIG_HOME="$e2e_root/config"
+    export XDG_RUNTIME_DIR="$e2e_root/runtime" XDG_CACHE_HOME="$e2e_root/cache"
+    export XDG_DATA_DIRS=/usr/local/share:/usr/share
+    mkdir -p "$HOME" "$XDG_DATA_HOME/applications" "$XDG_CONFIG_HOME" "$XDG_RUNTIME_DIR" "$XDG_CACHE_HOME"
+    chmod 700 "$XDG_RUNTIME_DIR"
+    unset WAYLAND_DISPLAY XDG_SESSION_TYPE QT_QPA_PLATFORM QT_QUICK_BACKEND SESSION_MANAGER
+
+    # Xvfb picks a free display number and writes it once it is ready.
+    Xvfb -displayfd 5 -screen 0 1280x800x24 -nolisten tcp 5>"$e2e_root/display" >>"$e2e_root/desktop.log" 2>&1 &
+    e2e_pids+=("$!")
+    wait_until 10 grep -q . "$e2e_root/display" || fail "Xvfb did not start"
+    export DISPLAY=":$(head -n 1 "$e2e_root/display")"
+
+    DBUS_SESSION_BUS_ADDRESS="unix:path=$XDG_RUNTIME_DIR/bus"
+    export DBUS_SESSION_BUS_ADDRESS
+    background dbus-daemon --session --nofork --address="$DBUS_SESSION_BUS_ADDRESS"
+    wait_until 10 test -S "$XDG_RUNTIME_DIR/bus" || fail "no session bus"
+
+    background openbox --sm-disable
+    wait_until 10 xprop -root _NET_SUPPORTING_WM_CHECK || fail "openbox did not start"
+    background trayer --edge top --align right --widthtype request --height 24 --SetDockType true
+    wait_until 10 xdotool search --class trayer || fail "no tray host"
+}
+
+# open_window CLASS TITLE: an xterm that keeps its title, printed as a window id once mapped.
+open_window() {
+    background xterm -class "$1" -T "$2" -xrm 'XTerm*allowTitleOps: false' -e sleep 3600
+    local id=""
+    wait_until 10 xdotool search --sync --onlyvisible --class "$1" || fail "window $1 did not map"
+    id=$(xdotool search --onlyvisible --class "$1" | head -n 1)
+    echo "$id"
+}
+
+db() {
+    sqlite3 -batch -noheader "$XDG_DATA_HOME/Larkspan/tracker.db" "$@"
+}

@@ -1,0 +1,101 @@
+#!/usr/bin/env bash
+# The real tracker on a private desktop: two windows are switched with xdotool, and the store must
+# then hold the activities a user would expect. Then a hard kill, a restart, and a quit through the
+# tray menu. Usage: tracker-test.sh path/to/larkspan
+set -euo pipefail
+larkspan=$1
+. "$(dirname "$0")/desktop-session.sh"
+
+start_desktop
+
+# Two applications the tracker knows by their desktop entries.
+cat >"$XDG_DATA_HOME/applications/code.desktop" <<'ENTRY'
+[Desktop Entry]
+Type=Application
+Name=Visual Studio Code
+Exec=code
+StartupWMClass=Code
+ENTRY
+cat >"$XDG_DATA_HOME/applications/kitty.desktop" <<'ENTRY'
+[Desktop Entry]
+Type=Application
+Name=kitty
+Exec=kitty
+StartupWMClass=kitty
+ENTRY
+
+# A title with quotes, an emoji and 300 characters in all.
+editor_title="main.cpp — \"Larkspan\" 'tracker' 🚀 "
+while [ "$(printf '%s' "$editor_title" | wc -m)" -lt 300 ]; do editor_title+="x"; done
+editor=$(open_window Code "$editor_title")
+terminal=$(open_window kitty "~/src: make test")
+xdotool windowactivate --sync "$editor"
+
+launch() {
+    "$larkspan" >>"$e2e_root/larkspan.log" 2>&1 &
+    tracker=$!
+    e2e_pids+=("$tracker")
+}
+rows() { db "SELECT count(*) FROM activities" 2>/dev/null || echo 0; }
+has_rows_above() { [ "$(rows)" -gt "$1" ]; }
+
+launch
+wait_until 10 has_rows_above 0 || fail "no activity stored 10 s after launch"
+
+switch_to() {
+    xdotool windowactivate --sync "$1"
+    sleep "$2"
+}
+switch_to "$editor" 8
+switch_to "$terminal" 8
+switch_to "$editor" 2   # too short to keep
+switch_to "$terminal" 20  # a heartbeat writes the open row's end meanwhile
+sleep 5
+
+check() {
+    local what=$1 expected=$2 actual
+    actual=$(db "$3")
+    [ "$actual" = "$expected" ] || fail "$what: expected '$expected', got '$actual'"
+}
+check "editor rows (the 2-second visit left none)" 1 \
+    "SELECT count(*) FROM activities WHERE app_name = 'Visual Studio Code'"
+check "editor row" "com.microsoft.VSCode|1" \
+    "SELECT bundle_id, category_id FROM activities WHERE app_name = 'Visual Studio Code'"
+check "editor title, unchanged" "$editor_title" \
+    "SELECT window_title FROM activities WHERE app_name = 'Visual Studio Code'"
+check "terminal rows" "2|2" \
+    "SELECT count(*), min(category_id) FROM activities WHERE app_name = 'kitty' AND category_id = 2"
+check "closed rows under 5 seconds" 0 \
+    "SELECT count(*) FROM activities WHERE end_time IS NOT NULL AND duration_seconds < 5"
+check "open row written by a heartbeat" "kitty|1" \
+    "SELECT app_name, end_time > start_time FROM activities ORDER BY id DESC LIMIT 1"
+
+# A hard kill loses nothing already written, and a restart neither seeds again nor stops tracking.
+kill -9 "$tracker"
+wait "$tracker" 2>/dev/null || true
+check "integrity after kill -9" ok "PRAGMA integrity_check"
+before=$(rows)
+launch
+xdotool windowactivate --sync "$editor"
+wait_until 10 has_rows_above "$before" || fail "no new activity after the restart"
+check "categories after restart" 21 "SELECT count(*) FROM categories"
+
+# Quit through the tray menu: right-click the icon, then the menu's last entry.
+icon_window() {
+    local id
+    for id in $(xdotool search --onlyvisible --pid "$tracker" 2>/dev/null); do
+        xdotool getwindowgeometry "$id" | grep -q 'Geometry: 2[0-9]x2[0-9]' && { echo "$id"; return 0; }
+    done
+    return 1
+}
+wait_until 10 icon_window || fail "no tray icon"
+xdotool mousemove --window "$(icon_window)" 8 8 click 3
+sleep 1
+xdotool key Up Return
+ended() { [ ! -d "/proc/$tracker" ] || grep -q '^State:.*Z' "/proc/$tracker/status"; }
+wait_until 10 ended || fail "Quit Larkspan did not end the tracker"
+status=0
+wait "$tracker" || status=$?
+[ "$status" -eq 0 ] || fail "the tracker exited with status $status after Quit"
+check "integrity after quitting" ok "PRAGMA integrity_check"
+echo "PASS"
