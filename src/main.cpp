@@ -40,7 +40,8 @@ bool hasDisplay() {
 
 int main(int argc, char** argv) {
     if (!hasDisplay()) {
-        std::fputs("Larkspan needs a graphical session: neither DISPLAY nor WAYLAND_DISPLAY is set.\n", stderr);
+        std::fputs("Larkspan needs a graphical session: neither DISPLAY nor WAYLAND_DISPLAY is set.\n",
+                   stderr);
         return 1;
     }
     QApplication app(argc, argv);
@@ -72,19 +73,23 @@ int main(int argc, char** argv) {
     QtAppPresenter presenter;
 
     auto delegate = std::make_shared<AppDelegate>(
-        database, AppEnvironment{clock, *mainQueue, timers, defaults, sounds, *notifier, notifications, *workspace,
-                                 scripts, monitorQueue, presenter});
+        database, AppEnvironment{clock, *mainQueue, timers, defaults, sounds, *notifier, notifications,
+                                 *workspace, scripts, monitorQueue, presenter});
+
+    // Launching draws the first title, so the tray icon never shows blank.
+    delegate->applicationDidFinishLaunching();
 
     TrayIcon& tray = presenter.tray();
     tray.setMenuItems([&delegate] { return delegate->menuBarController()->contextMenuItems(); });
     QObject::connect(&tray, &TrayIcon::openDashboardRequested,
                      [&delegate] { delegate->menuBarController()->menuOpenDashboard(); });
     QObject::connect(&tray, &TrayIcon::quitRequested, &app, &QApplication::quit);
-    QObject::connect(&instance, &SingleInstance::activationRequested, [&delegate] { delegate->openDashboard(); });
+    QObject::connect(&instance, &SingleInstance::activationRequested,
+                     [&delegate] { delegate->openDashboard(); });
     TerminationSignals terminationSignals;
-    QObject::connect(&terminationSignals, &TerminationSignals::terminationRequested, &app, &QApplication::quit);
+    QObject::connect(&terminationSignals, &TerminationSignals::terminationRequested, &app,
+                     &QApplication::quit);
 
-    delegate->applicationDidFinishLaunching();
     const int status = QApplication::exec();
     delegate->applicationWillTerminate();
     return status;

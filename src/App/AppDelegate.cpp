@@ -49,7 +49,8 @@ void AppDelegate::applicationDidFinishLaunching() {
 void AppDelegate::launchApp() {
     if (sessionManager_)
         return;
-    sessionManager_ = SessionManager::create(database_, categoryEngine_, env_.clock, env_.mainQueue, env_.timers);
+    sessionManager_ =
+        SessionManager::create(database_, categoryEngine_, env_.clock, env_.mainQueue, env_.timers);
     pomodoroTimer_ = std::make_unique<PomodoroTimer>(env_.clock, env_.defaults, env_.sounds, env_.timers);
     pomodoroTimer_->onSessionComplete = [weak = weak_from_this()](PomodoroMode mode,
                                                                   std::optional<std::int64_t> task) {

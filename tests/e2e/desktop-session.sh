@@ -20,7 +20,7 @@ stop_desktop() {
         kill "$pid" 2>/dev/null || true
     done
     wait 2>/dev/null || true
-    rm -rf "$e2e_root"
+    [ -n "${KEEP_E2E:-}" ] || rm -rf "$e2e_root"
 }
 trap stop_desktop EXIT
 
@@ -67,7 +67,7 @@ start_desktop() {
 
 # open_window CLASS TITLE: an xterm that keeps its title, printed as a window id once mapped.
 open_window() {
-    background xterm -class "$1" -T "$2" -xrm 'XTerm*allowTitleOps: false' -e sleep 3600
+    background xterm -name "$1" -class "$1" -T "$2" -xrm 'XTerm*allowTitleOps: false' -e sleep 3600
     local id=""
     wait_until 10 xdotool search --sync --onlyvisible --class "$1" || fail "window $1 did not map"
     id=$(xdotool search --onlyvisible --class "$1" | head -n 1)

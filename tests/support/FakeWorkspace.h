@@ -34,8 +34,14 @@ public:
         std::lock_guard lock(mutex_);
         handler_ = std::move(handler);
     }
-    bool canReadWindows() override { return true; }
-    void promptForWindowAccess() override {}
+    bool canReadWindows() override {
+        std::lock_guard lock(mutex_);
+        return canReadWindows_;
+    }
+    void promptForWindowAccess() override {
+        std::lock_guard lock(mutex_);
+        ++windowAccessPrompts_;
+    }
 
     // Puts `app` in front without an activation notice (as a poll would find it); nothing for none.
     void setFrontmost(std::optional<RunningApplication> app) {
@@ -70,6 +76,14 @@ public:
         std::lock_guard lock(mutex_);
         return static_cast<bool>(handler_);
     }
+    void setCanReadWindows(bool granted) {
+        std::lock_guard lock(mutex_);
+        canReadWindows_ = granted;
+    }
+    int windowAccessPrompts() const {
+        std::lock_guard lock(mutex_);
+        return windowAccessPrompts_;
+    }
     int frontmostReads() const {
         std::lock_guard lock(mutex_);
         return frontmostReads_;
@@ -78,6 +92,8 @@ public:
 private:
     mutable std::mutex mutex_;
     std::optional<RunningApplication> frontmost_;
+    bool canReadWindows_ = true;
+    int windowAccessPrompts_ = 0;
     std::vector<RunningApplication> running_;
     std::map<std::int64_t, std::optional<std::string>> titles_;
     double idleSeconds_ = 0;

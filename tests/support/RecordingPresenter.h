@@ -22,7 +22,8 @@ public:
     };
 
     void showApprovalPopup(const ActivityRecord& record, const std::vector<Category>&,
-                           const std::vector<std::int64_t>& topCategoryIDs, ApprovalAnswer onResolve) override {
+                           const std::vector<std::int64_t>& topCategoryIDs,
+                           ApprovalAnswer onResolve) override {
         approvals.push_back({record, topCategoryIDs, std::move(onResolve)});
         calls.push_back("showApproval");
     }

@@ -18,9 +18,13 @@ void QtAppPresenter::showReturnFromIdlePopup(double idleDuration, IdleAnswer) {
 
 void QtAppPresenter::closeIdlePopup() {}
 
-void QtAppPresenter::openDashboard() { qInfo().noquote() << "Larkspan: dashboard requested"; }
+void QtAppPresenter::openDashboard() {
+    qInfo().noquote() << "Larkspan: dashboard requested";
+}
 
-void QtAppPresenter::showStatusTitle(const StatusTitle& title) { tray_.update(title); }
+void QtAppPresenter::showStatusTitle(const StatusTitle& title) {
+    tray_.update(title);
+}
 
 void QtAppPresenter::closePopover() {}
 

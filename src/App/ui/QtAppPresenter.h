@@ -12,7 +12,8 @@ public:
     TrayIcon& tray() { return tray_; }
 
     void showApprovalPopup(const ActivityRecord& record, const std::vector<Category>& categories,
-                           const std::vector<std::int64_t>& topCategoryIDs, ApprovalAnswer onResolve) override;
+                           const std::vector<std::int64_t>& topCategoryIDs,
+                           ApprovalAnswer onResolve) override;
     void closeApprovalPopup() override;
     void showReturnFromIdlePopup(double idleDuration, IdleAnswer onResolve) override;
     void closeIdlePopup() override;

@@ -16,7 +16,6 @@ TrayIcon::TrayIcon(QObject* parent) : QObject(parent) {
     // there is none.
     hostWatch_.setInterval(2000);
     connect(&hostWatch_, &QTimer::timeout, this, &TrayIcon::showWhenHostExists);
-    showWhenHostExists();
 }
 
 void TrayIcon::update(const StatusTitle& title) {
@@ -29,6 +28,9 @@ void TrayIcon::update(const StatusTitle& title) {
         icon_.setIcon(TrayIconPainter::icon(content));
     }
     icon_.setToolTip(QString::fromStdString(title.plainText()));
+    // The icon goes up with its first picture, never blank.
+    if (!icon_.isVisible() && !hostWatch_.isActive())
+        showWhenHostExists();
 }
 
 void TrayIcon::setMenuItems(std::function<std::vector<MenuItem>()> items) {

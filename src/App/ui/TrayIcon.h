@@ -1,6 +1,7 @@
 // The tray icon: draws the status title as an icon with its full text in the tooltip, toggles the
 // popover on a left click and offers the context menu on a right click. A tray host may appear
 // after the application (at login): until one does the icon waits, and it shows once a host exists.
+// The icon first shows with the first title.
 #pragma once
 
 #include <QMenu>

@@ -42,9 +42,9 @@ struct AppDelegateTest : ::testing::Test {
     std::shared_ptr<AppDelegate> app;
 
     std::shared_ptr<AppDelegate> launch() {
-        app = std::make_shared<AppDelegate>(database, AppEnvironment{clock, mainQueue, timers, defaults, sounds, notifier,
-                                                                     notifications, workspace, scripts, monitorQueue,
-                                                                     presenter});
+        app = std::make_shared<AppDelegate>(
+            database, AppEnvironment{clock, mainQueue, timers, defaults, sounds, notifier, notifications,
+                                     workspace, scripts, monitorQueue, presenter});
         app->applicationDidFinishLaunching();
         settle();
         return app;
@@ -129,9 +129,9 @@ TEST_F(AppDelegateTest, TheIdleAnswerLandsOnTheLastAwayRowInsideItsWindow) {
     const double idle = 1200;
     clock.set(kStart + 5000);
     const Date now = clock.now();
-    const auto before = insertAway(now - idle - 61, 20);   // a minute and a second too early
+    const auto before = insertAway(now - idle - 61, 20);    // a minute and a second too early
     const auto inside = insertAway(now - idle - 55, idle);  // seen as idle a little after it began
-    const auto work = insertPending(now - 30, "Editor");   // after the return
+    const auto work = insertPending(now - 30, "Editor");    // after the return
     notifications.post(userReturnedFromIdle, {{userReturnedFromIdleSecondsKey, idle}});
     ASSERT_EQ(presenter.idlePrompts.size(), 1u);
     presenter.calls.clear();
@@ -183,9 +183,13 @@ TEST_F(AppDelegateTest, ThePopupOffersTheUsersSixMostUsedCategoriesFilledUpWithD
     EXPECT_EQ(presenter.approvals.back().topCategoryIDs, (std::vector<std::int64_t>{1, 4, 6, 10, 16, 17}));
 
     Category custom = Category::seeded().front();
-    custom.id = 99;
     custom.name = "Gardening";
     database.insertCategory(custom);
+    std::int64_t gardening = 0;
+    for (const auto& category : database.fetchCategories())
+        if (category.name == "Gardening")
+            gardening = category.id;
+    ASSERT_GT(gardening, 21);
     auto approved = [&](std::int64_t category, int times) {
         for (int i = 0; i < times; ++i) {
             auto id = database.insertActivity(ActivityBuilder(0, kStart - 7200 + i, 10).category(category));
@@ -193,9 +197,9 @@ TEST_F(AppDelegateTest, ThePopupOffersTheUsersSixMostUsedCategoriesFilledUpWithD
         }
     };
     approved(4, 3);
-    approved(99, 2);
+    approved(gardening, 2);
     app->showApprovalPopup(row(pending));
-    EXPECT_EQ(presenter.approvals.back().topCategoryIDs, (std::vector<std::int64_t>{4, 99, 1, 6, 10, 16}));
+    EXPECT_EQ(presenter.approvals.back().topCategoryIDs, (std::vector<std::int64_t>{4, gardening, 1, 6, 10, 16}));
 
     for (std::int64_t id : {2, 3, 5, 7, 8, 9})
         approved(id, 1);

@@ -28,7 +28,8 @@ struct MenuBarControllerTest : ::testing::Test {
     MemoryKeyValueStore defaults;
     RecordingSoundPlayer sounds;
     RecordingPresenter presenter;
-    std::shared_ptr<SessionManager> sessions = SessionManager::create(database, engine, clock, mainQueue, timers);
+    std::shared_ptr<SessionManager> sessions =
+        SessionManager::create(database, engine, clock, mainQueue, timers);
     PomodoroTimer timer{clock, defaults, sounds, timers};
 
     std::string lastTitle() const { return presenter.titles.back().plainText(); }
