@@ -28,8 +28,8 @@ int coveredPixels(const QImage& image, const QRect& area, QColor color = {}) {
     return count;
 }
 
-// Every symbol at three sizes and two tints, a Button showing a symbol as its control would, and one
-// with an unknown symbol that must stay empty.
+// Every symbol in the text colour, some at other sizes and tints, an unknown symbol that must stay
+// empty, and buttons showing symbols the way controls do: the bundled drawing tinted by `icon.color`.
 const QByteArray scene = R"(
 import QtQuick
 import QtQuick.Controls
@@ -70,9 +70,14 @@ Pane {
             }
             Button {
                 text: "Delete"
-                icon.name: Icons.themeName("trash")
                 icon.source: Icons.source("trash")
                 icon.color: "#e5484d"
+            }
+            Button {
+                objectName: "back"
+                icon.source: Icons.source("chevron.left")
+                icon.color: palette.buttonText
+                display: AbstractButton.IconOnly
             }
         }
     }

@@ -6,6 +6,8 @@
 // (a tint flattens them into silhouettes), the one-colour "-symbolic" variants exist only in some themes
 // and in other shapes and weights, and Qt does not recolour them. A consistent look wins over theme use,
 // so the theme name serves only untinted places that should look native, such as menu entries (icon()).
+// A Qt Quick control shows a symbol the same way: `icon.source: Icons.source("play.fill")` with
+// `icon.color` (the control tints the drawing); `icon.name` would pick the untintable theme icon.
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
@@ -37,7 +39,7 @@ public:
 
     // The bundled SVG as a URL for `Image.source` or a control's `icon.source`; empty for an unknown name.
     Q_INVOKABLE QUrl source(const QString& name) const;
-    // The freedesktop icon-theme name, for a control's `icon.name`; empty for an unknown name.
+    // The freedesktop icon-theme name, for untinted native use; empty for an unknown name.
     Q_INVOKABLE QString themeName(const QString& name) const;
     // The symbol tinted in `color`, as an image URL; empty for an unknown name. Needs an engine set up
     // with prepareQmlEngine().
