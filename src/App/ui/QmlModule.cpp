@@ -1,0 +1,27 @@
+#include "App/ui/QmlModule.h"
+
+#include <QQmlEngine>
+
+#include "App/ui/SymbolImageProvider.h"
+
+// Generated with the module; the engine calls it on the first `import Larkspan`.
+void qml_register_types_Larkspan();
+
+namespace larkspan {
+
+namespace {
+
+// Referring to the generated registration keeps it in a static link, where an unreferenced object
+// file would be dropped and the import would find no C++ types.
+void (*volatile const registerTypes)() = &qml_register_types_Larkspan;
+
+}  // namespace
+
+void prepareQmlEngine(QQmlEngine& engine) {
+    (void)registerTypes;
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    if (!engine.imageProvider(SymbolImageProvider::id))
+        engine.addImageProvider(SymbolImageProvider::id, new SymbolImageProvider);
+}
+
+}  // namespace larkspan

@@ -1,0 +1,185 @@
+#include "QuickScreen.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QQmlContext>
+#include <QRegularExpression>
+#include <QTest>
+
+#include "App/ui/QmlModule.h"
+
+namespace larkspan {
+
+namespace {
+
+struct Roles {
+    QColor window, windowText, base, alternateBase, text, placeholder, button, buttonText, highlight,
+        highlightedText, light, midlight, mid, dark, shadow, link, toolTipBase, toolTipText, disabledText;
+};
+
+QPalette paletteFrom(const Roles& r) {
+    QPalette palette;
+    palette.setColor(QPalette::Window, r.window);
+    palette.setColor(QPalette::WindowText, r.windowText);
+    palette.setColor(QPalette::Base, r.base);
+    palette.setColor(QPalette::AlternateBase, r.alternateBase);
+    palette.setColor(QPalette::Text, r.text);
+    palette.setColor(QPalette::PlaceholderText, r.placeholder);
+    palette.setColor(QPalette::Button, r.button);
+    palette.setColor(QPalette::ButtonText, r.buttonText);
+    palette.setColor(QPalette::BrightText, Qt::white);
+    palette.setColor(QPalette::Highlight, r.highlight);
+    palette.setColor(QPalette::HighlightedText, r.highlightedText);
+    palette.setColor(QPalette::Light, r.light);
+    palette.setColor(QPalette::Midlight, r.midlight);
+    palette.setColor(QPalette::Mid, r.mid);
+    palette.setColor(QPalette::Dark, r.dark);
+    palette.setColor(QPalette::Shadow, r.shadow);
+    palette.setColor(QPalette::Link, r.link);
+    palette.setColor(QPalette::LinkVisited, r.link);
+    palette.setColor(QPalette::ToolTipBase, r.toolTipBase);
+    palette.setColor(QPalette::ToolTipText, r.toolTipText);
+    for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, r.disabledText);
+    return palette;
+}
+
+}  // namespace
+
+QPalette schemePalette(ColorScheme scheme) {
+    if (scheme == ColorScheme::dark)
+        return paletteFrom({"#1e1e1e", "#f2f2f2", "#262626", "#2d2d2d", "#f2f2f2", "#8c8c8c", "#3a3a3a",
+                            "#f2f2f2", "#3584e4", "#ffffff", "#4a4a4a", "#404040", "#2a2a2a", "#141414",
+                            "#000000", "#78aeed", "#303030", "#f2f2f2", "#6e6e6e"});
+    return paletteFrom({"#f6f5f4", "#1d1d1d", "#ffffff", "#f2f2f2", "#1d1d1d", "#8a8a8a", "#e8e8e7",
+                        "#1d1d1d", "#3584e4", "#ffffff", "#ffffff", "#f0f0f0", "#c0bfbc", "#9a9996",
+                        "#3d3d3d", "#1a5fb4", "#ffffff", "#1d1d1d", "#a0a0a0"});
+}
+
+QuickScreen::QuickScreen() : originalPalette_(QGuiApplication::palette()) {
+    // Any warning from here to the end of the test function fails it: a view that warns is broken.
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+    prepareQmlEngine(engine_);
+    setColorScheme(ColorScheme::light);
+}
+
+QuickScreen::~QuickScreen() {
+    object_.reset();
+    ownWindow_.reset();
+    QGuiApplication::setPalette(originalPalette_);
+}
+
+void QuickScreen::setContextProperty(const QString& name, QObject* object) {
+    engine_.rootContext()->setContextProperty(name, object);
+}
+
+bool QuickScreen::load(const QString& typeName, const QVariantMap& properties, QSize size) {
+    return create(QStringLiteral("import Larkspan\n%1 {}\n").arg(typeName).toUtf8(), properties, size);
+}
+
+bool QuickScreen::loadText(const QByteArray& qml, const QVariantMap& properties, QSize size) {
+    return create(qml, properties, size);
+}
+
+bool QuickScreen::create(const QByteArray& qml, const QVariantMap& properties, QSize size) {
+    object_.reset();
+    ownWindow_.reset();
+    QQmlComponent component(&engine_);
+    component.setData(qml, QUrl(QStringLiteral("qrc:/screen-test/View.qml")));
+    if (component.isReady())
+        object_.reset(component.createWithInitialProperties(properties));
+    if (!object_) {
+        qInfo().noquote() << "View not created:" << component.errorString();
+        return false;
+    }
+    window_ = qobject_cast<QQuickWindow*>(object_.get());
+    root_ = qobject_cast<QQuickItem*>(object_.get());
+    if (window_) {
+        root_ = window_->contentItem();
+    } else if (root_) {
+        ownWindow_ = std::make_unique<QQuickWindow>();
+        window_ = ownWindow_.get();
+        root_->setParentItem(window_->contentItem());
+        root_->setSize(size);
+        window_->setColor(schemePalette(scheme_).color(QPalette::Window));
+    } else {
+        qInfo() << "View is neither an Item nor a Window";
+        return false;
+    }
+    window_->resize(size);
+    window_->show();
+    return QTest::qWaitForWindowExposed(window_);
+}
+
+void QuickScreen::setColorScheme(ColorScheme scheme) {
+    scheme_ = scheme;
+    const QPalette palette = schemePalette(scheme);
+    QGuiApplication::setPalette(palette);
+    if (ownWindow_)
+        window_->setColor(palette.color(QPalette::Window));
+}
+
+namespace {
+
+// Depth first over the visual tree, which also reaches delegates and the insides of controls.
+QQuickItem* findItem(QQuickItem* item, const QString& objectName) {
+    if (item->objectName() == objectName)
+        return item;
+    for (QQuickItem* child : item->childItems())
+        if (QQuickItem* found = findItem(child, objectName))
+            return found;
+    return nullptr;
+}
+
+}  // namespace
+
+QQuickItem* QuickScreen::find(const QString& objectName) const {
+    return root_ ? findItem(root_, objectName) : nullptr;
+}
+
+std::optional<QPoint> QuickScreen::centreOf(const QString& objectName) const {
+    const QQuickItem* item = find(objectName);
+    if (!item || !item->isVisible())
+        return std::nullopt;
+    return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+}
+
+bool QuickScreen::click(const QString& objectName) {
+    const std::optional<QPoint> centre = centreOf(objectName);
+    if (!centre)
+        return false;
+    QTest::mouseClick(window_, Qt::LeftButton, Qt::NoModifier, *centre);
+    return true;
+}
+
+bool QuickScreen::hover(const QString& objectName) {
+    const std::optional<QPoint> centre = centreOf(objectName);
+    if (!centre)
+        return false;
+    QTest::mouseMove(window_, *centre);
+    return true;
+}
+
+QString QuickScreen::text(const QString& objectName) const {
+    const QQuickItem* item = find(objectName);
+    return item ? item->property("text").toString() : QString();
+}
+
+QImage QuickScreen::grab() {
+    if (!window_)
+        return {};
+    QCoreApplication::processEvents();
+    return window_->grabWindow();
+}
+
+bool QuickScreen::saveScreenshot(const QString& test, const QString& state) {
+    const QImage image = grab();
+    const QString dir = QStringLiteral(LARKSPAN_SCREENSHOT_DIR);
+    if (image.isNull() || !QDir().mkpath(dir))
+        return false;
+    const QString scheme = scheme_ == ColorScheme::dark ? QStringLiteral("dark") : QStringLiteral("light");
+    return image.save(QStringLiteral("%1/%2-%3-%4.png").arg(dir, test, state, scheme));
+}
+
+}  // namespace larkspan

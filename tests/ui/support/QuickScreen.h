@@ -1,0 +1,80 @@
+// Runs one QML view of the `Larkspan` module offscreen for a screen test: loads it with initial
+// properties and context objects, fails the running test function on any warning (QML or other), renders
+// it at a given size, drives it with the mouse and saves screenshots named
+// "<test>-<state>-<light|dark>.png" under LARKSPAN_SCREENSHOT_DIR. Light and dark are fixed
+// application palettes, so screenshots do not depend on the desktop the tests run on.
+//
+// Create a QuickScreen inside a test function: the warning check covers that function.
+#pragma once
+
+#include <QImage>
+#include <QPalette>
+#include <QPointer>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QVariantMap>
+#include <memory>
+#include <optional>
+
+namespace larkspan {
+
+enum class ColorScheme { light, dark };
+
+// The fixed palette of a scheme.
+QPalette schemePalette(ColorScheme scheme);
+
+class QuickScreen {
+public:
+    QuickScreen();
+    ~QuickScreen();
+    QuickScreen(const QuickScreen&) = delete;
+    QuickScreen& operator=(const QuickScreen&) = delete;
+
+    QQmlEngine& engine() { return engine_; }
+    // Makes `object` visible to the views as `name`; call before load().
+    void setContextProperty(const QString& name, QObject* object);
+
+    // Loads the module's type `typeName` ("TimelineView") with `properties` at `size` logical pixels and
+    // shows it. A view that is a Window is shown as it is; an Item is placed in a window of its own.
+    // False (with the QML errors logged) when the view cannot be created.
+    bool load(const QString& typeName, const QVariantMap& properties = {}, QSize size = {360, 480});
+    // The same for a QML text, which may import `Larkspan` and anything else.
+    bool loadText(const QByteArray& qml, const QVariantMap& properties = {}, QSize size = {360, 480});
+
+    QQuickWindow* window() const { return window_; }
+    QQuickItem* root() const { return root_; }
+
+    // Sets the application palette of `scheme`; the views follow it.
+    void setColorScheme(ColorScheme scheme);
+    ColorScheme colorScheme() const { return scheme_; }
+
+    // The first item below the root named `objectName`; null when there is none.
+    QQuickItem* find(const QString& objectName) const;
+    // Clicks or hovers the centre of the item named `objectName`; false when there is none or it is
+    // not visible.
+    bool click(const QString& objectName);
+    bool hover(const QString& objectName);
+    // The item's `text` property; empty when there is none.
+    QString text(const QString& objectName) const;
+
+    // The window as drawn now, after pending updates.
+    QImage grab();
+    // Saves grab() as "<test>-<state>-<light|dark>.png" under LARKSPAN_SCREENSHOT_DIR; false when
+    // the image is empty or cannot be written.
+    bool saveScreenshot(const QString& test, const QString& state);
+
+private:
+    bool create(const QByteArray& qml, const QVariantMap& properties, QSize size);
+    std::optional<QPoint> centreOf(const QString& objectName) const;
+
+    QQmlEngine engine_;
+    std::unique_ptr<QQuickWindow> ownWindow_;
+    std::unique_ptr<QObject> object_;
+    QPointer<QQuickWindow> window_;
+    QPointer<QQuickItem> root_;
+    ColorScheme scheme_ = ColorScheme::light;
+    QPalette originalPalette_;
+};
+
+}  // namespace larkspan
