@@ -78,8 +78,10 @@ int main(int argc, char** argv) {
 
     // Launching draws the first title, so the tray icon never shows blank.
     delegate->applicationDidFinishLaunching();
+    presenter.attach(database, *delegate->sessionManager(), *delegate->pomodoroTimer());
 
     TrayIcon& tray = presenter.tray();
+    QObject::connect(&tray, &TrayIcon::popoverToggleRequested, [&presenter] { presenter.togglePopover(); });
     tray.setMenuItems([&delegate] { return delegate->menuBarController()->contextMenuItems(); });
     QObject::connect(&tray, &TrayIcon::openDashboardRequested,
                      [&delegate] { delegate->menuBarController()->menuOpenDashboard(); });

@@ -2,7 +2,20 @@
 
 #include <QDebug>
 
+#include "App/ui/QmlModule.h"
+
 namespace larkspan {
+
+QtAppPresenter::QtAppPresenter() {
+    prepareQmlEngine(engine_);
+}
+
+void QtAppPresenter::attach(Database& database, SessionManager& sessionManager,
+                            PomodoroTimer& pomodoroTimer) {
+    database_ = &database;
+    sessionManager_ = &sessionManager;
+    pomodoroTimer_ = &pomodoroTimer;
+}
 
 void QtAppPresenter::showApprovalPopup(const ActivityRecord& record, const std::vector<Category>&,
                                        const std::vector<std::int64_t>& topCategoryIDs, ApprovalAnswer) {
@@ -27,5 +40,7 @@ void QtAppPresenter::showStatusTitle(const StatusTitle& title) {
 }
 
 void QtAppPresenter::closePopover() {}
+
+void QtAppPresenter::togglePopover() {}
 
 }  // namespace larkspan

@@ -1,15 +1,27 @@
-// The Qt shell's side of AppPresenter: the tray shows the status title. The floating prompts and
-// the dashboard are announced on standard error until their windows exist.
+// The Qt shell's side of AppPresenter: the tray shows the status title, and the floating prompts, the
+// popover and the dashboard are Qt Quick windows sharing one QML engine.
 #pragma once
+
+#include <QQmlEngine>
 
 #include "App/AppPresenter.h"
 #include "App/ui/TrayIcon.h"
+#include "Data/Database.h"
+#include "Focus/PomodoroTimer.h"
+#include "Tracking/SessionManager.h"
 
 namespace larkspan {
 
 class QtAppPresenter final : public AppPresenter {
 public:
+    QtAppPresenter();
+
     TrayIcon& tray() { return tray_; }
+    QQmlEngine& engine() { return engine_; }
+
+    // What the windows show; given once the application has launched, before the event loop runs.
+    // Every argument must outlive the presenter.
+    void attach(Database& database, SessionManager& sessionManager, PomodoroTimer& pomodoroTimer);
 
     void showApprovalPopup(const ActivityRecord& record, const std::vector<Category>& categories,
                            const std::vector<std::int64_t>& topCategoryIDs,
@@ -20,9 +32,15 @@ public:
     void openDashboard() override;
     void showStatusTitle(const StatusTitle& title) override;
     void closePopover() override;
+    // A left click on the tray icon.
+    void togglePopover();
 
 private:
     TrayIcon tray_;
+    QQmlEngine engine_;
+    Database* database_ = nullptr;
+    SessionManager* sessionManager_ = nullptr;
+    PomodoroTimer* pomodoroTimer_ = nullptr;
 };
 
 }  // namespace larkspan
