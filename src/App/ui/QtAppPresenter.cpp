@@ -1,8 +1,11 @@
 #include "App/ui/QtAppPresenter.h"
 
+#include <QDateTime>
 #include <QDebug>
+#include <QSystemTrayIcon>
 
 #include "App/ui/QmlModule.h"
+#include "Platform/Qt/SettingsStore.h"
 
 namespace larkspan {
 
@@ -32,7 +35,18 @@ void QtAppPresenter::showReturnFromIdlePopup(double idleDuration, IdleAnswer) {
 void QtAppPresenter::closeIdlePopup() {}
 
 void QtAppPresenter::openDashboard() {
-    qInfo().noquote() << "Larkspan: dashboard requested";
+    if (!database_ || !sessionManager_)
+        return;
+    if (!dashboard_)
+        dashboard_ = std::make_unique<DashboardWindow>(engine_, *database_, *sessionManager_,
+                                                       QDateTime::currentMSecsSinceEpoch() / 1000.0,
+                                                       SettingsStore::defaultPath());
+    dashboard_->open();
+}
+
+void QtAppPresenter::openDashboardWithoutTray() {
+    if (!QSystemTrayIcon::isSystemTrayAvailable())
+        openDashboard();
 }
 
 void QtAppPresenter::showStatusTitle(const StatusTitle& title) {

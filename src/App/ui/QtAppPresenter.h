@@ -4,7 +4,10 @@
 
 #include <QQmlEngine>
 
+#include <memory>
+
 #include "App/AppPresenter.h"
+#include "App/ui/DashboardWindow.h"
 #include "App/ui/TrayIcon.h"
 #include "Data/Database.h"
 #include "Focus/PomodoroTimer.h"
@@ -32,6 +35,8 @@ public:
     void openDashboard() override;
     void showStatusTitle(const StatusTitle& title) override;
     void closePopover() override;
+    // At launch: with no tray to reach the application from, the dashboard opens in its place.
+    void openDashboardWithoutTray();
     // A left click on the tray icon.
     void togglePopover();
 
@@ -41,6 +46,7 @@ private:
     Database* database_ = nullptr;
     SessionManager* sessionManager_ = nullptr;
     PomodoroTimer* pomodoroTimer_ = nullptr;
+    std::unique_ptr<DashboardWindow> dashboard_;  // made at the first request, then reused
 };
 
 }  // namespace larkspan

@@ -1,0 +1,91 @@
+#include "App/Dashboard.h"
+
+#include <algorithm>
+
+namespace larkspan {
+
+namespace {
+
+struct TabEntry {
+    DashTab tab;
+    const char* label;
+    const char* symbol;
+    const char* coming;
+};
+
+constexpr std::array<TabEntry, 6> kTabs{{
+    {DashTab::timeline, "Timeline", "clock.fill", "Your day as a timeline of activities arrives here."},
+    {DashTab::focus, "Focus", "timer", "The Pomodoro timer and the day's tasks arrive here."},
+    {DashTab::calendar, "Calendar", "calendar", "A month of tracked days at a glance arrives here."},
+    {DashTab::analytics, "Analytics", "chart.bar.fill",
+     "Where your time went over a day, a week or a month arrives here."},
+    {DashTab::settings, "Settings", "gearshape.fill",
+     "Your categories and the clearing of old data arrive here."},
+    {DashTab::pendingReview, "Review", "exclamationmark.circle.fill",
+     "The activities waiting for a category, to sort in one go, arrive here."},
+}};
+
+const TabEntry& info(DashTab tab) {
+    return kTabs[static_cast<std::size_t>(tab)];
+}
+
+}  // namespace
+
+const char* label(DashTab tab) {
+    return info(tab).label;
+}
+
+const char* symbolName(DashTab tab) {
+    return info(tab).symbol;
+}
+
+const char* comingLine(DashTab tab) {
+    return info(tab).coming;
+}
+
+std::optional<DashTab> dashTabFromLabel(std::string_view text) {
+    const auto found =
+        std::find_if(kTabs.begin(), kTabs.end(), [text](const TabEntry& t) { return text == t.label; });
+    if (found == kTabs.end())
+        return std::nullopt;
+    return found->tab;
+}
+
+const std::array<DashTab, 5>& mainCases() {
+    static constexpr std::array<DashTab, 5> tabs{DashTab::timeline, DashTab::focus, DashTab::calendar,
+                                                 DashTab::analytics, DashTab::settings};
+    return tabs;
+}
+
+void onDayTap(DashboardSelection& selection, Date date) {
+    selection.date = date;
+    selection.tab = DashTab::timeline;
+}
+
+std::optional<LiveSessionCard> liveSessionCard(const std::optional<ActivityRecord>& session,
+                                               const std::vector<Category>& categories) {
+    if (!session)
+        return std::nullopt;
+    const Category* category = nullptr;
+    if (session->categoryID) {
+        const auto found =
+            std::find_if(categories.begin(), categories.end(),
+                         [id = *session->categoryID](const Category& c) { return c.id == id; });
+        if (found != categories.end())
+            category = &*found;
+    }
+    LiveSessionCard card;
+    card.icon = category ? category->icon : "\u23F1";
+    card.title = session->displayTitle();
+    card.status = std::string("Live \u00B7 ") + (category ? category->name : "Tracking");
+    card.color = category ? category->color() : kUnknownCategoryGrey;
+    return card;
+}
+
+std::optional<ReviewButton> reviewButton(std::int64_t pendingCount) {
+    if (pendingCount < 1)
+        return std::nullopt;
+    return ReviewButton{"Review Activities", std::to_string(pendingCount) + " need categorizing"};
+}
+
+}  // namespace larkspan

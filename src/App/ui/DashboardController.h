@@ -1,0 +1,105 @@
+// The dashboard window's state and what its sidebar shows. It holds what the screens share and keeps
+// across closing the window — the selected tab, the selected date and the categories — and follows
+// the tracker's published session and pending count to redraw the sidebar. The texts and colours come
+// from App/Dashboard; the view only lays them out.
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QColor>
+#include <QObject>
+#include <QString>
+#include <QVariantList>
+
+#include <optional>
+#include <vector>
+
+#include "App/Dashboard.h"
+#include "Data/Database.h"
+#include "Platform/Subscription.h"
+#include "Tracking/SessionManager.h"
+
+namespace larkspan {
+
+class DashboardController final : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The dashboard window makes its controller.")
+
+    // The selected tab's label; empty while none is selected. Setting an unknown label clears it.
+    Q_PROPERTY(QString selectedTab READ selectedTab WRITE setSelectedTab NOTIFY selectionChanged)
+    // Seconds since 1970: the day the timeline and the calendar show.
+    Q_PROPERTY(double selectedDate READ selectedDate WRITE setSelectedDate NOTIFY selectionChanged)
+    // The tab whose screen shows (an absent selection is the timeline): label, symbol, coming line.
+    Q_PROPERTY(QString shownTab READ shownTab NOTIFY selectionChanged)
+    Q_PROPERTY(QString shownSymbol READ shownSymbol NOTIFY selectionChanged)
+    Q_PROPERTY(QString shownComingLine READ shownComingLine NOTIFY selectionChanged)
+    // The sidebar's list: one map {label, symbol} per main tab.
+    Q_PROPERTY(QVariantList tabs READ tabs CONSTANT)
+
+    Q_PROPERTY(bool hasSession READ hasSession NOTIFY sidebarChanged)
+    Q_PROPERTY(QString sessionIcon READ sessionIcon NOTIFY sidebarChanged)
+    Q_PROPERTY(QString sessionTitle READ sessionTitle NOTIFY sidebarChanged)
+    Q_PROPERTY(QString sessionStatus READ sessionStatus NOTIFY sidebarChanged)
+    Q_PROPERTY(QColor sessionColor READ sessionColor NOTIFY sidebarChanged)
+
+    Q_PROPERTY(bool hasReviewButton READ hasReviewButton NOTIFY sidebarChanged)
+    Q_PROPERTY(QString reviewTitle READ reviewTitle NOTIFY sidebarChanged)
+    Q_PROPERTY(QString reviewDetail READ reviewDetail NOTIFY sidebarChanged)
+    Q_PROPERTY(QString reviewTab READ reviewTab CONSTANT)
+    Q_PROPERTY(QColor reviewColor READ reviewColor CONSTANT)
+
+public:
+    // `database` and `sessionManager` must outlive the controller. `now` (seconds since 1970) is the
+    // first selected date.
+    DashboardController(Database& database, SessionManager& sessionManager, Date now,
+                        QObject* parent = nullptr);
+
+    QString selectedTab() const;
+    void setSelectedTab(const QString& label);
+    double selectedDate() const { return selection_.date; }
+    void setSelectedDate(double date);
+    QString shownTab() const;
+    QString shownSymbol() const;
+    QString shownComingLine() const;
+    QVariantList tabs() const;
+
+    bool hasSession() const { return card().has_value(); }
+    QString sessionIcon() const;
+    QString sessionTitle() const;
+    QString sessionStatus() const;
+    QColor sessionColor() const;
+
+    bool hasReviewButton() const { return reviewButton(pendingCount_).has_value(); }
+    QString reviewTitle() const;
+    QString reviewDetail() const;
+    QString reviewTab() const;
+    QColor reviewColor() const;
+
+    const std::vector<Category>& categories() const { return categories_; }
+
+    // Reads the categories from the store; the window calls it each time it comes on screen.
+    Q_INVOKABLE void loadCategories();
+    // The review button: opens the review screen.
+    Q_INVOKABLE void openReview();
+    // A calendar day: shows that date on the timeline.
+    Q_INVOKABLE void dayTapped(double date);
+
+signals:
+    void selectionChanged();
+    // The session, the pending count or the categories changed.
+    void sidebarChanged();
+
+private:
+    std::optional<LiveSessionCard> card() const { return liveSessionCard(session_, categories_); }
+
+    Database& database_;
+    DashboardSelection selection_;
+    std::vector<Category> categories_;
+    // The tracker's values as last published; copies, so the sidebar never reads the manager itself.
+    std::optional<ActivityRecord> session_;
+    std::int64_t pendingCount_ = 0;
+    Subscription sessionSubscription_;
+    Subscription countSubscription_;
+};
+
+}  // namespace larkspan

@@ -1,0 +1,98 @@
+#include "App/Dashboard.h"
+
+#include <gtest/gtest.h>
+
+#include "ActivityBuilder.h"
+
+namespace larkspan {
+namespace {
+
+using test::ActivityBuilder;
+
+TEST(Dashboard, SidebarListsTheFiveMainTabsInOrderAndReviewOnlyByLabel) {
+    std::vector<std::string> labels, symbols;
+    for (DashTab tab : mainCases()) {
+        labels.emplace_back(label(tab));
+        symbols.emplace_back(symbolName(tab));
+    }
+    EXPECT_EQ(labels, (std::vector<std::string>{"Timeline", "Focus", "Calendar", "Analytics", "Settings"}));
+    EXPECT_EQ(symbols, (std::vector<std::string>{"clock.fill", "timer", "calendar", "chart.bar.fill",
+                                                 "gearshape.fill"}));
+    EXPECT_STREQ(label(DashTab::pendingReview), "Review");
+    EXPECT_STREQ(symbolName(DashTab::pendingReview), "exclamationmark.circle.fill");
+
+    // The label is the raw value, both ways; anything else is no tab.
+    for (DashTab tab : {DashTab::timeline, DashTab::focus, DashTab::calendar, DashTab::analytics,
+                        DashTab::settings, DashTab::pendingReview})
+        EXPECT_EQ(dashTabFromLabel(label(tab)), tab) << label(tab);
+    using namespace std::string_view_literals;
+    for (std::string_view text : {""sv, "timeline"sv, "Review "sv, "pendingReview"sv, "Focus\0x"sv})
+        EXPECT_EQ(dashTabFromLabel(text), std::nullopt) << text;
+}
+
+TEST(Dashboard, AbsentSelectionShowsTheTimelineAndADayTapOpensItOnThatDate) {
+    EXPECT_EQ(shownTab(std::nullopt), DashTab::timeline);
+    EXPECT_EQ(shownTab(DashTab::analytics), DashTab::analytics);
+    EXPECT_EQ(shownTab(DashTab::pendingReview), DashTab::pendingReview);
+
+    DashboardSelection selection;
+    EXPECT_EQ(selection.tab, DashTab::timeline);
+    selection.tab = DashTab::calendar;
+    selection.date = 1'700'000'000;
+    onDayTap(selection, 1'699'500'000);
+    EXPECT_EQ(selection.tab, DashTab::timeline);
+    EXPECT_EQ(selection.date, 1'699'500'000);
+    // From an absent selection too.
+    selection.tab.reset();
+    onDayTap(selection, 1'800'000'000);
+    EXPECT_EQ(selection.tab, DashTab::timeline);
+    EXPECT_EQ(selection.date, 1'800'000'000);
+}
+
+TEST(Dashboard, LiveCardShowsTheSessionsCategoryOrAGreyStopwatch) {
+    const std::vector<Category>& catalogue = Category::seeded();
+    const ActivityRecord coding =
+        ActivityBuilder(7, 1'700'000'000, 120).app("Code").title("main.cpp").category(1).open();
+    EXPECT_EQ(liveSessionCard(std::nullopt, catalogue), std::nullopt);
+
+    const auto card = liveSessionCard(coding, catalogue);
+    ASSERT_TRUE(card);
+    EXPECT_EQ(card->icon, catalogue[0].icon);
+    EXPECT_EQ(card->title, coding.displayTitle());
+    EXPECT_EQ(card->status, "Live \u00B7 Coding");
+    EXPECT_EQ(card->color, catalogue[0].color());
+
+    // A category the list does not hold (before the window read them, or deleted), none at all, or an
+    // empty list: the stopwatch, grey, "Tracking".
+    const LiveSessionCard unknown{"\u23F1", coding.displayTitle(), "Live \u00B7 Tracking",
+                                  kUnknownCategoryGrey};
+    EXPECT_EQ(liveSessionCard(coding, {}), unknown);
+    ActivityRecord stray = coding;
+    stray.categoryID = 999;
+    EXPECT_EQ(liveSessionCard(stray, catalogue), unknown);
+    stray.categoryID.reset();
+    EXPECT_EQ(liveSessionCard(stray, catalogue), unknown);
+
+    // A renamed category shows its new name and colour; a long, right-to-left title stays whole.
+    std::vector<Category> edited = catalogue;
+    edited[0].name = "\u05E7\u05D5\u05D3 Deep work";
+    edited[0].colorHex = "#00FF00";
+    ActivityRecord longTitle = coding;
+    longTitle.appName = std::string(100'000, 'x');
+    longTitle.windowTitle.reset();
+    const auto renamed = liveSessionCard(longTitle, edited);
+    ASSERT_TRUE(renamed);
+    EXPECT_EQ(renamed->status, "Live \u00B7 \u05E7\u05D5\u05D3 Deep work");
+    EXPECT_EQ(renamed->color, (Color{0, 1, 0}));
+    EXPECT_EQ(renamed->title, longTitle.displayTitle());
+}
+
+TEST(Dashboard, ReviewButtonShowsFromOneWaitingActivity) {
+    EXPECT_EQ(reviewButton(0), std::nullopt);
+    EXPECT_EQ(reviewButton(-3), std::nullopt);
+    EXPECT_EQ(reviewButton(1), (ReviewButton{"Review Activities", "1 need categorizing"}));
+    EXPECT_EQ(reviewButton(1204), (ReviewButton{"Review Activities", "1204 need categorizing"}));
+}
+
+}  // namespace
+}  // namespace larkspan
