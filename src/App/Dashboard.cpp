@@ -15,14 +15,14 @@ struct TabEntry {
 
 constexpr std::array<TabEntry, 6> kTabs{{
     {DashTab::timeline, "Timeline", "clock.fill", "Your day as a timeline of activities arrives here."},
-    {DashTab::focus, "Focus", "timer", "The Pomodoro timer and the day's tasks arrive here."},
-    {DashTab::calendar, "Calendar", "calendar", "A month of tracked days at a glance arrives here."},
+    {DashTab::focus, "Focus", "timer", "The Pomodoro timer and today's tasks arrive here."},
+    {DashTab::calendar, "Calendar", "calendar", "Your tracked days, a month at a time, arrive here."},
     {DashTab::analytics, "Analytics", "chart.bar.fill",
-     "Where your time went over a day, a week or a month arrives here."},
+     "Where your time goes, by day, week and month, arrives here."},
     {DashTab::settings, "Settings", "gearshape.fill",
      "Your categories and the clearing of old data arrive here."},
     {DashTab::pendingReview, "Review", "exclamationmark.circle.fill",
-     "The activities waiting for a category, to sort in one go, arrive here."},
+     "Activities waiting for a category arrive here to be sorted."},
 }};
 
 const TabEntry& info(DashTab tab) {

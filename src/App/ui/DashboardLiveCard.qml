@@ -26,6 +26,8 @@ Rectangle {
         Text {
             objectName: "liveIcon"
             Layout.alignment: Qt.AlignVCenter
+            Layout.preferredWidth: 32
+            horizontalAlignment: Text.AlignHCenter
             text: card.controller.sessionIcon
             font.pixelSize: 26
             font.family: "Noto Color Emoji"

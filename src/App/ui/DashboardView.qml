@@ -12,6 +12,12 @@ Rectangle {
 
     readonly property color secondaryText: Qt.rgba(palette.windowText.r, palette.windowText.g,
                                                    palette.windowText.b, 0.62)
+    // Hairlines that show on light and dark palettes alike.
+    // The review screen keeps the orange of its button; the others the palette's accent.
+    readonly property color detailAccent: controller.shownTab === controller.reviewTab
+                                          ? controller.reviewColor : palette.highlight
+    readonly property color separator: Qt.rgba(palette.windowText.r, palette.windowText.g,
+                                               palette.windowText.b, 0.12)
 
     implicitWidth: 1100
     implicitHeight: 740
@@ -23,7 +29,7 @@ Rectangle {
 
         handle: Rectangle {
             implicitWidth: 1
-            color: palette.mid
+            color: root.separator
         }
 
         Rectangle {
@@ -83,7 +89,7 @@ Rectangle {
                     Layout.rightMargin: 6
                     implicitHeight: 1
                     visible: root.controller.hasReviewButton
-                    color: palette.mid
+                    color: root.separator
                 }
 
                 DashboardReviewButton {
@@ -107,16 +113,24 @@ Rectangle {
 
             ColumnLayout {
                 anchors.centerIn: parent
-                width: Math.min(parent.width - 64, 460)
+                width: Math.min(parent.width - 64, 520)
                 spacing: 10
 
-                SymbolIcon {
-                    objectName: "detailSymbol"
+                Rectangle {
                     Layout.alignment: Qt.AlignHCenter
-                    Layout.bottomMargin: 6
-                    name: root.controller.shownSymbol
-                    size: 48
-                    color: root.secondaryText
+                    Layout.bottomMargin: 8
+                    implicitWidth: 88
+                    implicitHeight: 88
+                    radius: 44
+                    color: Qt.rgba(root.detailAccent.r, root.detailAccent.g, root.detailAccent.b, 0.12)
+
+                    SymbolIcon {
+                        objectName: "detailSymbol"
+                        anchors.centerIn: parent
+                        name: root.controller.shownSymbol
+                        size: 40
+                        color: root.detailAccent
+                    }
                 }
                 Label {
                     objectName: "detailTitle"
