@@ -240,6 +240,7 @@ private slots:
         auto* controller = window->rootObject()->property("controller").value<DashboardController*>();
         QVERIFY(controller);
         // Coming on screen read the categories.
+        QCOMPARE(controller->categories(), tracker.db.fetchCategories());
         QCOMPARE(controller->sessionStatus(), QStringLiteral("Live \u00B7 Coding"));
         controller->setSelectedTab("Calendar");
 
