@@ -3,8 +3,12 @@
 #pragma once
 
 #include <QQmlEngine>
+#include <functional>
+#include <memory>
 
 #include "App/AppPresenter.h"
+#include "App/ui/QuickSummaryController.h"
+#include "App/ui/QuickSummaryPopover.h"
 #include "App/ui/TrayIcon.h"
 #include "Data/Database.h"
 #include "Focus/PomodoroTimer.h"
@@ -34,6 +38,8 @@ public:
     void closePopover() override;
     // A left click on the tray icon.
     void togglePopover();
+    // What the popover's "Open Dashboard" does after closing the popover.
+    void setOpenDashboard(std::function<void()> action) { openDashboard_ = std::move(action); }
 
 private:
     TrayIcon tray_;
@@ -41,6 +47,11 @@ private:
     Database* database_ = nullptr;
     SessionManager* sessionManager_ = nullptr;
     PomodoroTimer* pomodoroTimer_ = nullptr;
+    SystemClock clock_;
+    std::function<void()> openDashboard_;
+    // Made by attach; the summary refreshes from then on, also while the popover is closed.
+    std::unique_ptr<QuickSummaryController> quickSummary_;
+    std::unique_ptr<QuickSummaryPopover> popover_;
 };
 
 }  // namespace larkspan
