@@ -136,7 +136,8 @@ private slots:
         QVERIFY(!visible(screen, "breakdownEmpty"));
         const QQuickItem* fill = screen.find("breakdownFill0");
         QVERIFY(fill);
-        QTRY_COMPARE(qRound(fill->width() * 1000 / fill->parentItem()->width()), qRound(3000.0 * 1000 / 6106));
+        QTRY_COMPARE(qRound(fill->width() * 1000 / fill->parentItem()->width()),
+                     qRound(3000.0 * 1000 / 6106));
         QCOMPARE(screen.text("productivityText"), QStringLiteral("74% productive today"));
         QCOMPARE(colorOf(screen, "productivityDot"), QColor("#34C759"));
         QVERIFY(visible(screen, "pendingBanner"));
@@ -147,6 +148,12 @@ private slots:
         QVERIFY(visible(screen, "timerStopButton"));
         QTest::qWait(600);  // the ring's arc has caught up
         screenshots(screen, "full-day-running");
+        // The rest of the recent list is below the fold.
+        auto* flickable = screen.find("scroller")->property("contentItem").value<QQuickItem*>();
+        QVERIFY(flickable);
+        flickable->setProperty("contentY",
+                               flickable->property("contentHeight").toReal() - flickable->height());
+        screenshots(screen, "full-day-scrolled");
     }
 
     void productivityColoursTurnAtSixtyAndThirtyPercent() {

@@ -56,8 +56,10 @@ Pane {
         // Header
         RowLayout {
             Layout.fillWidth: true
-            Layout.margins: 14
-            Layout.bottomMargin: 10
+            Layout.leftMargin: 14
+            Layout.rightMargin: 14
+            Layout.topMargin: 10
+            Layout.bottomMargin: 8
             spacing: 8
             ColumnLayout {
                 spacing: 1
@@ -103,8 +105,8 @@ Pane {
             Layout.fillWidth: true
             Layout.leftMargin: 14
             Layout.rightMargin: 14
-            Layout.topMargin: 8
-            Layout.bottomMargin: 8
+            Layout.topMargin: 6
+            Layout.bottomMargin: 6
             spacing: 10
             Emoji {
                 text: root.session.icon
@@ -116,6 +118,7 @@ Pane {
                 Layout.fillWidth: true
                 Label {
                     objectName: "sessionTitle"
+                    horizontalAlignment: Text.AlignLeft  // right-to-left titles too, so rows line up
                     text: root.session.title
                     font.pixelSize: 13
                     font.weight: Font.Medium
@@ -125,6 +128,7 @@ Pane {
                 }
                 Label {
                     objectName: "sessionSubtitle"
+                    horizontalAlignment: Text.AlignLeft
                     visible: root.session.hasSession
                     text: root.session.subtitle
                     color: root.secondaryText
@@ -149,7 +153,7 @@ Pane {
         Rectangle {
             objectName: "pomodoroWidget"
             Layout.fillWidth: true
-            implicitHeight: pomodoroRow.implicitHeight + 16
+            implicitHeight: pomodoroRow.implicitHeight + 12
             color: Qt.rgba(root.timer.color.r, root.timer.color.g, root.timer.color.b,
                            root.timer.backgroundOpacity)
 
@@ -261,7 +265,7 @@ Pane {
             objectName: "pendingBanner"
             visible: root.controller.pendingCount > 0
             Layout.fillWidth: true
-            implicitHeight: bannerRow.implicitHeight + 16
+            implicitHeight: bannerRow.implicitHeight + 12
             color: Qt.rgba(1, 0.584, 0, 0.12)
             RowLayout {
                 id: bannerRow
@@ -279,6 +283,7 @@ Pane {
                     Layout.fillWidth: true
                     Label {
                         objectName: "pendingBannerText"
+                        horizontalAlignment: Text.AlignLeft
                         text: root.controller.pendingBannerText
                         font.pixelSize: 12
                         font.weight: Font.DemiBold
@@ -305,10 +310,13 @@ Pane {
 
         ScrollView {
             id: scroller
+            objectName: "scroller"
             Layout.fillWidth: true
             Layout.fillHeight: true
             contentWidth: availableWidth
             clip: true
+            // The recent list often runs below the fold: say so with a visible bar.
+            ScrollBar.vertical.policy: contentHeight > availableHeight ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
 
             ColumnLayout {
                 width: scroller.availableWidth
@@ -318,9 +326,9 @@ Pane {
                 ColumnLayout {
                     Layout.fillWidth: true
                     Layout.margins: 14
-                    Layout.topMargin: 10
-                    Layout.bottomMargin: 10
-                    spacing: 7
+                    Layout.topMargin: 8
+                    Layout.bottomMargin: 8
+                    spacing: 6
 
                     SectionTitle {
                         text: root.labels.breakdownTitle
@@ -400,9 +408,9 @@ Pane {
                 ColumnLayout {
                     Layout.fillWidth: true
                     Layout.margins: 14
-                    Layout.topMargin: 10
-                    Layout.bottomMargin: 10
-                    spacing: 6
+                    Layout.topMargin: 8
+                    Layout.bottomMargin: 8
+                    spacing: 5
 
                     SectionTitle {
                         text: root.labels.recentTitle
@@ -426,6 +434,7 @@ Pane {
                                 Layout.fillWidth: true
                                 Label {
                                     objectName: "recentTitle" + index
+                                    horizontalAlignment: Text.AlignLeft
                                     text: modelData.title
                                     font.pixelSize: 12
                                     elide: Text.ElideRight
