@@ -128,6 +128,9 @@ private slots:
         QCOMPARE(screen.text("recentTitle0"), QStringLiteral("Mystery tool"));
         QCOMPARE(screen.text("recentTitle1"), QStringLiteral("Thirty-one"));
         QCOMPARE(screen.text("recentTitle2"), QStringLiteral("Focus playlist"));
+        // Start times in the short time style: hours and minutes.
+        QVERIFY(screen.text("recentTime0").contains(QStringLiteral("11:02")));
+        QVERIFY(!screen.text("recentTime0").contains(QStringLiteral("11:02:")));
         QVERIFY(screen.find("recentTitle4"));
         QVERIFY(!screen.find("recentTitle5"));
         // Four bars of five-plus categories; the longest bar is Coding's share of the day.

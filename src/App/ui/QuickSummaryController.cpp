@@ -5,7 +5,9 @@
 #include <QDateTime>
 #include <QLocale>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QThreadPool>
+#include <algorithm>
 
 #include "App/QuickSummary.h"
 #include "Data/LocalDay.h"
@@ -27,6 +29,13 @@ QColor qColor(const Color& color) {
 
 QDateTime localDateTime(Date instant) {
     return QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(instant * 1000));
+}
+
+// The locale's short time style, hours and minutes: the C locale's short style carries seconds.
+QString shortTimeFormat(const QLocale& locale) {
+    QString format = locale.timeFormat(QLocale::ShortFormat);
+    format.remove(QRegularExpression(QStringLiteral("[:.]ss?")));
+    return format;
 }
 
 }  // namespace
@@ -128,12 +137,12 @@ QVariantMap QuickSummaryController::productivity() const {
 QVariantList QuickSummaryController::recentRows() const {
     QVariantList rows;
     const QLocale locale;
+    const QString timeFormat = shortTimeFormat(locale);
     for (const RecentRow& row : larkspan::recentRows(shown_.recent, categoryMap(shown_.categories))) {
-        rows.append(
-            QVariantMap{{"icon", text(row.icon)},
-                        {"title", text(row.title)},
-                        {"time", locale.toString(localDateTime(row.startTime).time(), QLocale::ShortFormat)},
-                        {"duration", text(row.duration)}});
+        rows.append(QVariantMap{{"icon", text(row.icon)},
+                                {"title", text(row.title)},
+                                {"time", locale.toString(localDateTime(row.startTime).time(), timeFormat)},
+                                {"duration", text(row.duration)}});
     }
     return rows;
 }

@@ -24,7 +24,8 @@ QuickSummaryPopover::QuickSummaryPopover(QQmlEngine& engine, QuickSummaryControl
                                          QObject* parent)
     : QObject(parent), controller_(controller) {
     window_.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-    window_.setTitle(QStringLiteral("Larkspan"));
+    // Not "Larkspan": that names the dashboard, which scripts and window lists look up by title.
+    window_.setTitle(QStringLiteral("Quick Summary"));
     window_.resize(kSize);
     window_.setMinimumSize(kSize);
     window_.setMaximumSize(kSize);

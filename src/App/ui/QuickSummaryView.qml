@@ -442,6 +442,7 @@ Pane {
                                     Layout.fillWidth: true
                                 }
                                 Label {
+                                    objectName: "recentTime" + index
                                     text: modelData.time
                                     color: root.secondaryText
                                     font.pixelSize: 10
