@@ -12,6 +12,7 @@
 #include "App/ui/TrayIcon.h"
 #include "Data/Database.h"
 #include "Focus/PomodoroTimer.h"
+#include "Platform/Clock.h"
 #include "Tracking/SessionManager.h"
 
 namespace larkspan {
