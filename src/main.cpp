@@ -79,6 +79,7 @@ int main(int argc, char** argv) {
     // Launching draws the first title, so the tray icon never shows blank.
     delegate->applicationDidFinishLaunching();
     presenter.attach(database, *delegate->sessionManager(), *delegate->pomodoroTimer());
+    presenter.setOpenDashboard([&delegate] { delegate->menuBarController()->menuOpenDashboard(); });
     presenter.openDashboardWithoutTray();
 
     TrayIcon& tray = presenter.tray();

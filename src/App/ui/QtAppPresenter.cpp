@@ -18,6 +18,14 @@ void QtAppPresenter::attach(Database& database, SessionManager& sessionManager,
     database_ = &database;
     sessionManager_ = &sessionManager;
     pomodoroTimer_ = &pomodoroTimer;
+    quickSummary_ = std::make_unique<QuickSummaryController>(database, sessionManager, pomodoroTimer, clock_);
+    quickSummary_->setOnOpenDashboard([this] {
+        closePopover();
+        if (openDashboard_) {
+            openDashboard_();
+        }
+    });
+    popover_ = std::make_unique<QuickSummaryPopover>(engine_, *quickSummary_);
 }
 
 void QtAppPresenter::showApprovalPopup(const ActivityRecord& record, const std::vector<Category>&,
@@ -53,8 +61,16 @@ void QtAppPresenter::showStatusTitle(const StatusTitle& title) {
     tray_.update(title);
 }
 
-void QtAppPresenter::closePopover() {}
+void QtAppPresenter::closePopover() {
+    if (popover_) {
+        popover_->close();
+    }
+}
 
-void QtAppPresenter::togglePopover() {}
+void QtAppPresenter::togglePopover() {
+    if (popover_) {
+        popover_->toggle(tray_.geometry());
+    }
+}
 
 }  // namespace larkspan

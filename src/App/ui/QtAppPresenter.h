@@ -4,13 +4,17 @@
 
 #include <QQmlEngine>
 
+#include <functional>
 #include <memory>
 
 #include "App/AppPresenter.h"
 #include "App/ui/DashboardWindow.h"
+#include "App/ui/QuickSummaryController.h"
+#include "App/ui/QuickSummaryPopover.h"
 #include "App/ui/TrayIcon.h"
 #include "Data/Database.h"
 #include "Focus/PomodoroTimer.h"
+#include "Platform/Clock.h"
 #include "Tracking/SessionManager.h"
 
 namespace larkspan {
@@ -39,6 +43,8 @@ public:
     void openDashboardWithoutTray();
     // A left click on the tray icon.
     void togglePopover();
+    // What the popover's "Open Dashboard" does after closing the popover.
+    void setOpenDashboard(std::function<void()> action) { openDashboard_ = std::move(action); }
 
 private:
     TrayIcon tray_;
@@ -47,6 +53,11 @@ private:
     SessionManager* sessionManager_ = nullptr;
     PomodoroTimer* pomodoroTimer_ = nullptr;
     std::unique_ptr<DashboardWindow> dashboard_;  // made at the first request, then reused
+    SystemClock clock_;
+    std::function<void()> openDashboard_;
+    // Made by attach; the summary refreshes from then on, also while the popover is closed.
+    std::unique_ptr<QuickSummaryController> quickSummary_;
+    std::unique_ptr<QuickSummaryPopover> popover_;
 };
 
 }  // namespace larkspan

@@ -1,0 +1,92 @@
+#include "App/ui/QuickSummaryPopover.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QScreen>
+
+#include "App/PopoverPlacement.h"
+
+namespace larkspan {
+
+namespace {
+
+// Longer than a click takes from press (which deactivates) to release (which toggles).
+constexpr qint64 kReopenGuardMilliseconds = 400;
+
+ScreenRect screenRect(const QRect& rect) {
+    return {rect.x(), rect.y(), rect.width(), rect.height()};
+}
+
+}  // namespace
+
+QuickSummaryPopover::QuickSummaryPopover(QQmlEngine& engine, QuickSummaryController& controller,
+                                         QObject* parent)
+    : QObject(parent), controller_(controller) {
+    window_.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    // Not "Larkspan": that names the dashboard, which scripts and window lists look up by title.
+    window_.setTitle(QStringLiteral("Quick Summary"));
+    window_.resize(kSize);
+    window_.setMinimumSize(kSize);
+    window_.setMaximumSize(kSize);
+
+    QQmlComponent component(&engine);
+    component.setData("import Larkspan\nQuickSummaryView {}\n",
+                      QUrl(QStringLiteral("qrc:/popover/Popover.qml")));
+    QObject* made = component.createWithInitialProperties({{"controller", QVariant::fromValue(&controller)}});
+    view_.reset(qobject_cast<QQuickItem*>(made));
+    if (!view_) {
+        delete made;
+        qWarning().noquote() << "Larkspan: the quick summary cannot be shown:" << component.errorString();
+        return;
+    }
+    view_->setParentItem(window_.contentItem());
+    view_->setSize(kSize);
+    connect(&window_, &QWindow::activeChanged, this, &QuickSummaryPopover::activeChanged);
+}
+
+QuickSummaryPopover::~QuickSummaryPopover() {
+    // The view goes before its window.
+    view_.reset();
+}
+
+void QuickSummaryPopover::toggle(const QRect& trayIcon) {
+    if (window_.isVisible()) {
+        close();
+    } else if (!sinceDeactivationClose_.isValid() ||
+               sinceDeactivationClose_.elapsed() > kReopenGuardMilliseconds) {
+        show(trayIcon);
+    }
+}
+
+void QuickSummaryPopover::show(const QRect& trayIcon) {
+    const QPoint pointer = QCursor::pos();
+    const QPoint anchor = trayIcon.isEmpty() ? pointer : trayIcon.center();
+    QScreen* screen = QGuiApplication::screenAt(anchor);
+    if (!screen) {
+        screen = QGuiApplication::primaryScreen();
+    }
+    const ScreenRect available = screen ? screenRect(screen->availableGeometry()) : ScreenRect{};
+    const ScreenRect frame = placePopover(screenRect(trayIcon), {pointer.x(), pointer.y()}, available,
+                                          kSize.width(), kSize.height());
+    if (screen) {
+        window_.setScreen(screen);
+    }
+    window_.setGeometry(frame.x, frame.y, frame.width, frame.height);
+    controller_.load();
+    window_.show();
+    window_.requestActivate();
+}
+
+void QuickSummaryPopover::close() {
+    window_.hide();
+}
+
+void QuickSummaryPopover::activeChanged() {
+    if (!window_.isActive() && window_.isVisible()) {
+        sinceDeactivationClose_.start();
+        close();
+    }
+}
+
+}  // namespace larkspan
