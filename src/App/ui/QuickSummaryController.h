@@ -107,7 +107,7 @@ private:
     std::function<void()> onOpenDashboard_;
 
     Loaded shown_;
-    QTimer refresh_;
+    QTimer refresh_{this};  // a child, so tests can find it
     std::vector<Subscription> timerSubscriptions_;
 };
 
