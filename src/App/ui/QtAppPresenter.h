@@ -2,12 +2,16 @@
 // popover and the dashboard are Qt Quick windows sharing one QML engine.
 #pragma once
 
+#include <QPointer>
 #include <QQmlEngine>
+#include <memory>
 
 #include "App/AppPresenter.h"
+#include "App/ui/FloatingWindow.h"
 #include "App/ui/TrayIcon.h"
 #include "Data/Database.h"
 #include "Focus/PomodoroTimer.h"
+#include "Review/ui/ApprovalPopupController.h"
 #include "Tracking/SessionManager.h"
 
 namespace larkspan {
@@ -35,12 +39,20 @@ public:
     // A left click on the tray icon.
     void togglePopover();
 
+    // The floating prompts' windows as last shown; null before the first. Closing only hides them.
+    FloatingWindow* approvalWindow() const { return approvalWindow_.get(); }
+    FloatingWindow* idleWindow() const { return idleWindow_.get(); }
+
 private:
     TrayIcon tray_;
     QQmlEngine engine_;
     Database* database_ = nullptr;
     SessionManager* sessionManager_ = nullptr;
     PomodoroTimer* pomodoroTimer_ = nullptr;
+    // Each prompt's last window, which owns its controller. A new prompt of the same kind replaces it.
+    std::unique_ptr<FloatingWindow> approvalWindow_;
+    QPointer<ApprovalPopupController> approvalController_;
+    std::unique_ptr<FloatingWindow> idleWindow_;
 };
 
 }  // namespace larkspan

@@ -1,0 +1,11 @@
+import QtQuick
+import Larkspan
+
+// The rounded card both floating prompts are drawn on: the window's colour, a thin border, corners of
+// radius 16. Its window is transparent, so the corners show what lies behind.
+Rectangle {
+    radius: 16
+    color: palette.window
+    border.width: 1
+    border.color: Qt.rgba(palette.windowText.r, palette.windowText.g, palette.windowText.b, 0.18)
+}
