@@ -44,7 +44,8 @@ QPoint FloatingWindow::bottomRightPosition(const QScreen* screen, QSize size, QP
     if (!screen)
         return current;
     const QRect area = screen->availableGeometry();
-    return {area.x() + area.width() - size.width() - margin, area.y() + area.height() - size.height() - margin};
+    return {area.x() + area.width() - size.width() - margin,
+            area.y() + area.height() - size.height() - margin};
 }
 
 void FloatingWindow::showAtBottomRight() {

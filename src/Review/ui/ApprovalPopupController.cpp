@@ -16,9 +16,9 @@ QVariantList entries(const std::vector<Category>& categories) {
             {QStringLiteral("id"), QVariant::fromValue<qint64>(category.id)},
             {QStringLiteral("name"), QString::fromStdString(category.name)},
             {QStringLiteral("icon"), QString::fromStdString(category.icon)},
-            {QStringLiteral("color"), QColor::fromRgbF(static_cast<float>(color.red),
-                                                       static_cast<float>(color.green),
-                                                       static_cast<float>(color.blue))},
+            {QStringLiteral("color"),
+             QColor::fromRgbF(static_cast<float>(color.red), static_cast<float>(color.green),
+                              static_cast<float>(color.blue))},
             {QStringLiteral("title"), QString::fromStdString(ApprovalPopup::menuTitle(category))},
         });
     }

@@ -33,6 +33,8 @@ PromptCard {
         RowLayout {
             objectName: "titleRow"
             Layout.fillWidth: true
+            // Fixed heights down the card: 16 + 10 + 30 + 10 + 74 + 10 + 20 fit the 172 inside the padding.
+            Layout.preferredHeight: 16
             spacing: 6
             SymbolIcon {
                 name: "questionmark.circle.fill"
@@ -65,10 +67,12 @@ PromptCard {
         Column {
             objectName: "questionRow"
             Layout.fillWidth: true
-            spacing: 1
+            spacing: 0
             Label {
                 objectName: "activityTitle"
                 width: parent.width
+                height: 16
+                verticalAlignment: Text.AlignVCenter
                 text: root.controller.activityTitle
                 textFormat: Text.PlainText
                 font.pixelSize: 13
@@ -77,26 +81,28 @@ PromptCard {
                 maximumLineCount: 1
             }
             Label {
+                height: 14
+                verticalAlignment: Text.AlignVCenter
                 text: "What were you doing?"
                 font.pixelSize: 11
                 color: root.secondaryText
             }
         }
 
-        GridLayout {
+        // Three equal columns, however many buttons there are.
+        Grid {
+            id: grid
             objectName: "categoryGrid"
             Layout.fillWidth: true
             columns: 3
-            columnSpacing: 6
-            rowSpacing: 6
+            spacing: 6
             Repeater {
                 model: root.controller.gridCategories
                 PromptChoiceButton {
                     required property var modelData
                     required property int index
                     objectName: "category-" + index
-                    Layout.fillWidth: true
-                    Layout.preferredWidth: 1
+                    width: (grid.width - 2 * grid.spacing) / 3
                     emoji: modelData.icon
                     text: modelData.name
                     tint: modelData.color
@@ -105,50 +111,66 @@ PromptCard {
             }
         }
 
-        Item {
-            Layout.fillHeight: true
-        }
-
         RowLayout {
             objectName: "dismissRow"
             Layout.fillWidth: true
-            Button {
+            Layout.preferredHeight: 20
+            PromptTextButton {
                 objectName: "skip"
+                // The label, not the button's edge, lines up with the card's content.
+                Layout.leftMargin: -leftPadding
                 text: "Skip"
-                flat: true
-                font.pixelSize: 12
-                implicitHeight: 22
-                topPadding: 2
-                bottomPadding: 2
                 onClicked: root.controller.skip()
             }
             Item {
                 Layout.fillWidth: true
             }
-            Button {
+            PromptTextButton {
+                id: moreButton
                 objectName: "more"
+                Layout.rightMargin: -rightPadding
                 text: "More\u2026"
-                flat: true
-                font.pixelSize: 12
-                implicitHeight: 22
-                topPadding: 2
-                bottomPadding: 2
                 enabled: root.controller.menuCategories.length > 0
                 onClicked: moreMenu.open()
 
                 Menu {
                     id: moreMenu
                     objectName: "moreMenu"
-                    y: parent.height - height
+                    // Opens upwards from the button's right edge, kept inside the small window.
+                    x: moreButton.width - width
+                    y: moreButton.height - height
+                    margins: 6
                     Repeater {
                         model: root.controller.menuCategories
                         MenuItem {
+                            id: entry
                             required property var modelData
                             required property int index
                             objectName: "menu-" + index
                             text: modelData.title
                             font.pixelSize: 12
-                            implicitHeight: 24
+                            implicitHeight: 26
+                            contentItem: Row {
+                                leftPadding: 2
+                                spacing: 6
+                                Text {
+                                    anchors.verticalCenter: parent.verticalCenter
+                                    text: entry.modelData.icon
+                                    textFormat: Text.PlainText
+                                    font.family: "Noto Color Emoji"
+                                    font.pixelSize: 13
+                                }
+                                Text {
+                                    anchors.verticalCenter: parent.verticalCenter
+                                    width: Math.min(implicitWidth, 200)
+                                    text: entry.modelData.name
+                                    textFormat: Text.PlainText
+                                    font: entry.font
+                                    color: entry.highlighted ? entry.palette.highlightedText : entry.palette.windowText
+                                    elide: Text.ElideRight
+                                    maximumLineCount: 1
+                                }
+                            }
                             onTriggered: root.controller.choose(modelData.id)
                         }
                     }

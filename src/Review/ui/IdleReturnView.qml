@@ -47,20 +47,20 @@ PromptCard {
             elide: Text.ElideRight
         }
 
-        GridLayout {
+        // Three equal columns, however many buttons there are.
+        Grid {
+            id: grid
             objectName: "optionGrid"
             Layout.fillWidth: true
             columns: 3
-            columnSpacing: 6
-            rowSpacing: 6
+            spacing: 6
             Repeater {
                 model: root.controller.options
                 PromptChoiceButton {
                     required property var modelData
                     required property int index
                     objectName: "option-" + index
-                    Layout.fillWidth: true
-                    Layout.preferredWidth: 1
+                    width: (grid.width - 2 * grid.spacing) / 3
                     emoji: modelData.icon
                     text: modelData.label
                     onClicked: root.controller.choose(index)
@@ -72,15 +72,10 @@ PromptCard {
             Layout.fillHeight: true
         }
 
-        Button {
+        PromptTextButton {
             objectName: "dismiss"
             Layout.alignment: Qt.AlignHCenter
             text: "Dismiss"
-            flat: true
-            font.pixelSize: 12
-            implicitHeight: 22
-            topPadding: 2
-            bottomPadding: 2
             onClicked: root.controller.dismiss()
         }
     }

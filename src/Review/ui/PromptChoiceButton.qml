@@ -11,15 +11,22 @@ AbstractButton {
 
     implicitHeight: 34
     hoverEnabled: true
-    padding: 2
+    padding: 1
+    leftPadding: 4
+    rightPadding: 4
 
     contentItem: Column {
         spacing: 0
+        topPadding: Math.max(0, (height - implicitHeight) / 2)
         Text {
             width: parent.width
+            height: 17
+            verticalAlignment: Text.AlignVCenter
             horizontalAlignment: Text.AlignHCenter
             text: control.emoji
             textFormat: Text.PlainText
+            // Named, as the first fallback font with the character would draw it in black and white.
+            font.family: "Noto Color Emoji"
             font.pixelSize: 14
             maximumLineCount: 1
         }
