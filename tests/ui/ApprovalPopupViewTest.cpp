@@ -230,6 +230,8 @@ private slots:
         QPointer<FloatingWindow> window = presenter.approvalWindow();
         QVERIFY(window && window->view());
         QVERIFY(QTest::qWaitForWindowExposed(window));
+        // Without a screen the window stays where it is.
+        QCOMPARE(FloatingWindow::bottomRightPosition(nullptr, {340, 200}, {5, 6}), QPoint(5, 6));
         const Qt::WindowFlags flags = window->flags();
         QVERIFY(flags.testFlag(Qt::WindowDoesNotAcceptFocus));
         QVERIFY(flags.testFlag(Qt::WindowStaysOnTopHint));
@@ -240,6 +242,13 @@ private slots:
         QCOMPARE(window->size(), QSize(340, 200));
         const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
         QCOMPARE(window->position(), QPoint(area.right() + 1 - 20 - 340, area.bottom() + 1 - 20 - 200));
+
+        // Dragging the background asks the window system to move the window, quietly.
+        QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, QPoint(200, 6));
+        for (int step = 1; step <= 5; ++step)
+            QTest::mouseMove(window, QPoint(200 - 8 * step, 6 + 2 * step));
+        QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, QPoint(160, 16));
+        QVERIFY(answers.empty());
 
         QQuickItem* button = findIn(window->contentItem(), "category-2");
         QVERIFY(button);
