@@ -94,6 +94,8 @@ PromptCard {
             id: grid
             objectName: "categoryGrid"
             Layout.fillWidth: true
+            // Takes what a short grid leaves, so that the rows above stay put and "Skip" stays low.
+            Layout.fillHeight: true
             columns: 3
             spacing: 6
             Repeater {
