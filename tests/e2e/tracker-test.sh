@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# The real tracker on a private desktop: two windows are switched with xdotool, and the store must
-# then hold the activities a user would expect. Then a hard kill, a restart, and a quit through the
-# tray menu. Usage: tracker-test.sh path/to/larkspan
+# The real tracker on a private desktop: three windows are switched with xdotool, and the store must
+# then hold the activities a user would expect. An application no rule knows waits for the user, who
+# answers the floating approval card without it ever taking the focus. Then a hard kill, a restart,
+# and a quit through the tray menu. Usage: tracker-test.sh path/to/larkspan
 set -euo pipefail
 larkspan=$1
 . "$(dirname "$0")/desktop-session.sh"
@@ -29,6 +30,8 @@ editor_title="main.cpp — \"Larkspan\" 'tracker' 🚀 "
 while [ "$(printf '%s' "$editor_title" | wc -m)" -lt 300 ]; do editor_title+="x"; done
 editor=$(open_window Code "$editor_title")
 terminal=$(open_window kitty "~/src: make test")
+# No desktop entry and no rule: classified with low confidence, so it needs the user's approval.
+mystery=$(open_window Mystery "what is this")
 xdotool windowactivate --sync "$editor"
 
 launch() {
@@ -49,14 +52,39 @@ switch_to() {
 switch_to "$editor" 8
 switch_to "$terminal" 8
 switch_to "$editor" 2   # too short to keep
-switch_to "$terminal" 20  # a heartbeat writes the open row's end meanwhile
-sleep 5
 
 check() {
     local what=$1 expected=$2 actual
     actual=$(db "$3")
     [ "$actual" = "$expected" ] || fail "$what: expected '$expected', got '$actual'"
 }
+# The unknown application, until a heartbeat (30 s after launch) has written its open row's end and
+# it is long enough to count as pending (30 s).
+switch_to "$mystery" 24
+check "open row written by a heartbeat" "Mystery|1" \
+    "SELECT app_name, end_time > start_time FROM activities ORDER BY id DESC LIMIT 1"
+sleep 9
+
+# Leaving it closes its row at over 30 seconds; the new session finds it pending and the card floats
+# up at the bottom right of the screen, leaving the focus with the terminal.
+xdotool windowactivate --sync "$terminal"
+popup_window() { xdotool search --onlyvisible --name 'Larkspan — Quick check-in' | head -n 1 | grep .; }
+wait_until 10 popup_window || fail "no approval card for the pending activity"
+popup=$(popup_window)
+sleep 0.5
+[ "$(xdotool getactivewindow)" = "$terminal" ] || fail "the approval card took the focus"
+xdotool getwindowgeometry "$popup" | grep -q 'Position: 920,580 ' ||
+    fail "approval card not at the bottom right: $(xdotool getwindowgeometry "$popup")"
+xdotool getwindowgeometry "$popup" | grep -q 'Geometry: 340x200' || fail "approval card not 340x200"
+check "pending row" "0|21" "SELECT is_approved, category_id FROM activities WHERE app_name = 'Mystery'"
+# The grid offers the most used categories first: Terminal, with two rows, holds the first button.
+xdotool mousemove --window "$popup" 60 100 click 1
+popup_gone() { ! xdotool search --onlyvisible --name 'Larkspan — Quick check-in'; }
+wait_until 5 popup_gone || fail "the approval card stayed after an answer"
+check "answered row" "1|2" "SELECT is_approved, category_id FROM activities WHERE app_name = 'Mystery'"
+[ "$(xdotool getactivewindow)" = "$terminal" ] || fail "answering the card moved the focus"
+sleep 2
+
 check "editor rows (the 2-second visit left none)" 1 \
     "SELECT count(*) FROM activities WHERE app_name = 'Visual Studio Code'"
 check "editor row" "com.microsoft.VSCode|1" \
@@ -67,8 +95,6 @@ check "terminal rows" "2|2" \
     "SELECT count(*), min(category_id) FROM activities WHERE app_name = 'kitty' AND category_id = 2"
 check "closed rows under 5 seconds" 0 \
     "SELECT count(*) FROM activities WHERE end_time IS NOT NULL AND duration_seconds < 5"
-check "open row written by a heartbeat" "kitty|1" \
-    "SELECT app_name, end_time > start_time FROM activities ORDER BY id DESC LIMIT 1"
 
 # A hard kill loses nothing already written, and a restart neither seeds again nor stops tracking.
 kill -9 "$tracker"

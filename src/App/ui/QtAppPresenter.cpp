@@ -1,11 +1,10 @@
 #include "App/ui/QtAppPresenter.h"
 
-#include <QDateTime>
-#include <QDebug>
 #include <QSystemTrayIcon>
 
 #include "App/ui/QmlModule.h"
 #include "Platform/Qt/SettingsStore.h"
+#include "Review/ui/IdleReturnController.h"
 
 namespace larkspan {
 
@@ -28,26 +27,66 @@ void QtAppPresenter::attach(Database& database, SessionManager& sessionManager,
     popover_ = std::make_unique<QuickSummaryPopover>(engine_, *quickSummary_);
 }
 
-void QtAppPresenter::showApprovalPopup(const ActivityRecord& record, const std::vector<Category>&,
-                                       const std::vector<std::int64_t>& topCategoryIDs, ApprovalAnswer) {
-    qInfo().noquote() << "Larkspan: approval prompt for" << QString::fromStdString(record.displayTitle())
-                      << "offering" << topCategoryIDs.size() << "categories";
+namespace {
+
+// The window titles: nothing shows them, but they name the prompts to window lists and to tools.
+const QString kApprovalTitle = QStringLiteral("Larkspan \u2014 Quick check-in");
+const QString kIdleTitle = QStringLiteral("Larkspan \u2014 Welcome back");
+
+// Puts `next` in `slot`. The old window may be delivering the click that led here, so it is hidden now
+// and deleted once control is back in the event loop.
+void replaceWindow(std::unique_ptr<FloatingWindow>& slot, std::unique_ptr<FloatingWindow> next) {
+    if (slot) {
+        slot->hide();
+        slot.release()->deleteLater();
+    }
+    slot = std::move(next);
 }
 
-void QtAppPresenter::closeApprovalPopup() {}
+}  // namespace
 
-void QtAppPresenter::showReturnFromIdlePopup(double idleDuration, IdleAnswer) {
-    qInfo().noquote() << "Larkspan: welcome-back prompt for" << qRound64(idleDuration) << "seconds away";
+void QtAppPresenter::showApprovalPopup(const ActivityRecord& record, const std::vector<Category>& categories,
+                                       const std::vector<std::int64_t>& topCategoryIDs,
+                                       ApprovalAnswer onResolve) {
+    auto* controller =
+        new ApprovalPopupController(ApprovalPopup(record, categories, topCategoryIDs, std::move(onResolve)));
+    auto window = std::make_unique<FloatingWindow>(
+        engine_, QStringLiteral("ApprovalPopupView"),
+        QVariantMap{{QStringLiteral("controller"), QVariant::fromValue(controller)}}, kApprovalTitle);
+    controller->setParent(window.get());
+    approvalController_ = controller;
+    replaceWindow(approvalWindow_, std::move(window));
+    approvalWindow_->showAtBottomRight();
 }
 
-void QtAppPresenter::closeIdlePopup() {}
+void QtAppPresenter::closeApprovalPopup() {
+    if (!approvalWindow_)
+        return;
+    approvalWindow_->hide();
+    if (approvalController_)
+        approvalController_->cardGone();
+}
+
+void QtAppPresenter::showReturnFromIdlePopup(double idleDuration, IdleAnswer onResolve) {
+    auto* controller = new IdleReturnController(IdleReturn(idleDuration, std::move(onResolve)));
+    auto window = std::make_unique<FloatingWindow>(
+        engine_, QStringLiteral("IdleReturnView"),
+        QVariantMap{{QStringLiteral("controller"), QVariant::fromValue(controller)}}, kIdleTitle);
+    controller->setParent(window.get());
+    replaceWindow(idleWindow_, std::move(window));
+    idleWindow_->showAtBottomRight();
+}
+
+void QtAppPresenter::closeIdlePopup() {
+    if (idleWindow_)
+        idleWindow_->hide();
+}
 
 void QtAppPresenter::openDashboard() {
     if (!database_ || !sessionManager_)
         return;
     if (!dashboard_)
-        dashboard_ = std::make_unique<DashboardWindow>(engine_, *database_, *sessionManager_,
-                                                       QDateTime::currentMSecsSinceEpoch() / 1000.0,
+        dashboard_ = std::make_unique<DashboardWindow>(engine_, *database_, *sessionManager_, clock_.now(),
                                                        SettingsStore::defaultPath());
     dashboard_->open();
 }

@@ -2,6 +2,7 @@
 // popover and the dashboard are Qt Quick windows sharing one QML engine.
 #pragma once
 
+#include <QPointer>
 #include <QQmlEngine>
 
 #include <functional>
@@ -9,12 +10,14 @@
 
 #include "App/AppPresenter.h"
 #include "App/ui/DashboardWindow.h"
+#include "App/ui/FloatingWindow.h"
 #include "App/ui/QuickSummaryController.h"
 #include "App/ui/QuickSummaryPopover.h"
 #include "App/ui/TrayIcon.h"
 #include "Data/Database.h"
 #include "Focus/PomodoroTimer.h"
 #include "Platform/Clock.h"
+#include "Review/ui/ApprovalPopupController.h"
 #include "Tracking/SessionManager.h"
 
 namespace larkspan {
@@ -46,6 +49,10 @@ public:
     // What the popover's "Open Dashboard" does after closing the popover.
     void setOpenDashboard(std::function<void()> action) { openDashboard_ = std::move(action); }
 
+    // The floating prompts' windows as last shown; null before the first. Closing only hides them.
+    FloatingWindow* approvalWindow() const { return approvalWindow_.get(); }
+    FloatingWindow* idleWindow() const { return idleWindow_.get(); }
+
 private:
     TrayIcon tray_;
     QQmlEngine engine_;
@@ -58,6 +65,10 @@ private:
     // Made by attach; the summary refreshes from then on, also while the popover is closed.
     std::unique_ptr<QuickSummaryController> quickSummary_;
     std::unique_ptr<QuickSummaryPopover> popover_;
+    // Each prompt's last window, which owns its controller. A new prompt of the same kind replaces it.
+    std::unique_ptr<FloatingWindow> approvalWindow_;
+    QPointer<ApprovalPopupController> approvalController_;
+    std::unique_ptr<FloatingWindow> idleWindow_;
 };
 
 }  // namespace larkspan

@@ -1,0 +1,53 @@
+import QtQuick
+import QtQuick.Controls
+import Larkspan
+
+// One answer of a floating prompt: an emoji over a label, each on one line, on a tinted rounded tile.
+AbstractButton {
+    id: control
+
+    property string emoji
+    property color tint: palette.highlight
+
+    implicitHeight: 34
+    hoverEnabled: true
+    padding: 1
+    leftPadding: 4
+    rightPadding: 4
+
+    contentItem: Column {
+        spacing: 0
+        topPadding: Math.max(0, (height - implicitHeight) / 2)
+        Text {
+            width: parent.width
+            height: 17
+            verticalAlignment: Text.AlignVCenter
+            horizontalAlignment: Text.AlignHCenter
+            text: control.emoji
+            textFormat: Text.PlainText
+            // Named, as the first fallback font with the character would draw it in black and white.
+            font.family: "Noto Color Emoji"
+            font.pixelSize: 14
+            maximumLineCount: 1
+        }
+        Text {
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            text: control.text
+            textFormat: Text.PlainText
+            font.pixelSize: 11
+            font.weight: Font.Medium
+            color: palette.windowText
+            elide: Text.ElideRight
+            maximumLineCount: 1
+        }
+    }
+
+    background: Rectangle {
+        radius: 8
+        color: Qt.rgba(control.tint.r, control.tint.g, control.tint.b,
+                       control.down ? 0.3 : control.hovered ? 0.22 : 0.15)
+        border.width: 1
+        border.color: Qt.rgba(control.tint.r, control.tint.g, control.tint.b, 0.3)
+    }
+}

@@ -1,0 +1,275 @@
+// The approval card on screen: its texts, its answers (a grid button, "Skip", a "More…" entry, the
+// end of the countdown), the hover pause, a short grid, long names, and its floating window as the
+// presenter shows it: flags, place, closing on an answer and replacement by the next card.
+#include <QPointer>
+#include <QScreen>
+#include <QTest>
+
+#include "App/ui/QtAppPresenter.h"
+#include "QuickScreen.h"
+#include "Review/ui/ApprovalPopupController.h"
+
+using namespace larkspan;
+using namespace std::chrono_literals;
+
+namespace {
+
+using Answers = std::vector<std::optional<std::int64_t>>;
+
+// The card on a backdrop wider than itself, so that the pointer can leave it and the screenshots
+// show its corners and border. Its controller is the context object "cardController".
+const QByteArray scene = R"(
+import QtQuick
+import Larkspan
+
+Rectangle {
+    color: Qt.darker(palette.window, 1.25)
+    // Made with its controller as an initial property, as the floating window makes it.
+    Loader {
+        objectName: "card"
+        x: 20
+        y: 20
+        width: 340
+        height: 200
+        Component.onCompleted: setSource("qrc:/qt/qml/Larkspan/ApprovalPopupView.qml", {controller: cardController})
+    }
+}
+)";
+const QSize sceneSize{380, 240};
+
+ActivityRecord mystery(std::string title = "Mystery") {
+    ActivityRecord record;
+    record.id = 42;
+    record.appName = "Mystery";
+    record.windowTitle = std::move(title);
+    return record;
+}
+
+QQuickItem* findIn(QQuickItem* item, const QString& name) {
+    if (item->objectName() == name)
+        return item;
+    for (QQuickItem* child : item->childItems())
+        if (QQuickItem* found = findIn(child, name))
+            return found;
+    return nullptr;
+}
+
+// Every Text item below `item`.
+void collectTexts(QQuickItem* item, QList<QQuickItem*>& texts) {
+    if (item->inherits("QQuickText"))
+        texts.append(item);
+    for (QQuickItem* child : item->childItems())
+        collectTexts(child, texts);
+}
+
+void clickItem(QQuickWindow* window, QQuickItem* item) {
+    QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier,
+                      item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint());
+}
+
+// Shows the card over `controller`.
+bool load(QuickScreen& screen, ApprovalPopupController& controller) {
+    screen.setContextProperty(QStringLiteral("cardController"), &controller);
+    return screen.loadText(scene, {}, sceneSize);
+}
+
+}  // namespace
+
+class ApprovalPopupViewTest : public QObject {
+    Q_OBJECT
+private slots:
+    void gridButtonAnswersItsCategory() {
+        Answers answers;
+        ApprovalPopupController controller(ApprovalPopup(mystery("Quarterly plan.odt"), Category::seeded(),
+                                                         {1, 4, 6, 10, 16, 17},
+                                                         [&](auto id) { answers.push_back(id); }));
+        // After the controllers, so that the views go first.
+        QuickScreen screen;
+        QVERIFY(load(screen, controller));
+        QCOMPARE(screen.text("activityTitle"), QStringLiteral("Quarterly plan.odt"));
+        QCOMPARE(screen.text("countdown"), QStringLiteral("45s"));
+        QVERIFY(controller.counting());
+        for (int i = 0; i < 6; ++i)
+            QVERIFY(screen.find(QStringLiteral("category-%1").arg(i)));
+        QCOMPARE(screen.find("category-1")->property("text").toString(), QStringLiteral("Learning"));
+        for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+            screen.setColorScheme(scheme);
+            QVERIFY(screen.saveScreenshot("approval", "six"));
+        }
+        QVERIFY(screen.click("category-1"));
+        QCOMPARE(answers, Answers{4});
+        QVERIFY(!controller.counting());
+        // A second click, then "Skip", find the card already answered.
+        QVERIFY(screen.click("category-2"));
+        QVERIFY(screen.click("skip"));
+        QCOMPARE(answers, Answers{4});
+    }
+
+    void skipAndRunningOutAnswerNone() {
+        Answers skipped, timedOut;
+        ApprovalPopupController skipping(
+            ApprovalPopup(mystery(), Category::seeded(), {1}, [&](auto id) { skipped.push_back(id); }));
+        ApprovalPopupController running(
+            ApprovalPopup(mystery(), Category::seeded(), {1}, [&](auto id) { timedOut.push_back(id); }), 5ms);
+        // After the controllers, so that the views go first.
+        QuickScreen screen;
+        QVERIFY(load(screen, skipping));
+        QVERIFY(screen.click("skip"));
+        QCOMPARE(skipped, Answers{std::nullopt});
+
+        QVERIFY(load(screen, running));
+        QTRY_COMPARE(timedOut, Answers{std::nullopt});
+        QCOMPARE(screen.text("countdown"), QStringLiteral("0s"));
+        QTest::qWait(50);
+        QCOMPARE(timedOut.size(), 1u);
+    }
+
+    void countdownStandsStillWhileHoveredAndResumes() {
+        Answers answers;
+        ApprovalPopupController controller(
+            ApprovalPopup(mystery(), Category::seeded(), {1, 4, 6}, [&](auto id) { answers.push_back(id); }),
+            40ms);
+        // After the controllers, so that the views go first.
+        QuickScreen screen;
+        QVERIFY(load(screen, controller));
+        QTRY_VERIFY(controller.countdown() <= 43);
+        // Resting on a button holds the card as well as resting on its background.
+        QVERIFY(screen.hover("category-0"));
+        QTRY_VERIFY(controller.hovered());
+        const int held = controller.countdown();
+        QTest::qWait(400);
+        QCOMPARE(controller.countdown(), held);
+        QVERIFY(screen.hover("activityTitle"));
+        QTest::qWait(200);
+        QCOMPARE(controller.countdown(), held);
+        QVERIFY(controller.counting());
+        // Leaving lets it go on from the same value.
+        QTest::mouseMove(screen.window(), QPoint(5, 5));
+        QTRY_VERIFY(!controller.hovered());
+        QTRY_VERIFY(controller.countdown() < held);
+        QVERIFY(answers.empty());
+    }
+
+    void fewerIdsGiveShorterGridAndTheRestInMore() {
+        Answers answers;
+        // 404 names no category: no button for it.
+        ApprovalPopupController controller(ApprovalPopup(mystery(), Category::seeded(), {3, 404, 9},
+                                                         [&](auto id) { answers.push_back(id); }));
+        // After the controllers, so that the views go first.
+        QuickScreen screen;
+        QVERIFY(load(screen, controller));
+        QVERIFY(screen.find("category-1"));
+        QVERIFY(!screen.find("category-2"));
+        QCOMPARE(screen.find("category-1")->property("text").toString(), QStringLiteral("AI Tools"));
+        QCOMPARE(controller.menuCategories().size(), 19);
+        for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+            screen.setColorScheme(scheme);
+            QVERIFY(screen.saveScreenshot("approval", "two"));
+        }
+
+        QVERIFY(screen.click("more"));
+        QQuickItem* overlay = screen.window()->contentItem();
+        QTRY_VERIFY(findIn(overlay, "menu-0") && findIn(overlay, "menu-0")->isVisible());
+        QCOMPARE(findIn(overlay, "menu-0")->property("text").toString(), QStringLiteral("\U0001F4BB Coding"));
+        QVERIFY(findIn(overlay, "menu-18"));
+        QVERIFY(!findIn(overlay, "menu-19"));
+        QTest::qWait(100);
+        for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+            screen.setColorScheme(scheme);
+            QVERIFY(screen.saveScreenshot("approval", "more-menu"));
+        }
+        clickItem(screen.window(), findIn(overlay, "menu-1"));
+        QCOMPARE(answers, Answers{2});
+    }
+
+    void longNamesStayOnOneLine() {
+        auto categories = Category::seeded();
+        categories[0].name = std::string(100000, 'W');
+        categories[1].name =
+            "\u0627\u0644\u0628\u0631\u0645\u062C\u0629 \u0648\u0627\u0644\u062A\u0635\u0645\u064A\u0645 "
+            "\u0648\u0627\u0644\u0643\u062A\u0627\u0628\u0629";
+        categories[2].name = "Deep \xF0\x9F\x8E\xA7 focus\nwith a line break and invalid \xFF bytes";
+        const std::string title =
+            std::string("A very long window title ") + std::string(5000, 'x') + std::string("\0tail", 5);
+        ApprovalPopupController controller(
+            ApprovalPopup(mystery(title), categories, {1, 2, 3, 4, 5, 6}, [](auto) {}));
+        // After the controllers, so that the views go first.
+        QuickScreen screen;
+        QVERIFY(load(screen, controller));
+        QList<QQuickItem*> texts;
+        collectTexts(screen.find("card"), texts);
+        QVERIFY(texts.size() > 12);
+        for (QQuickItem* text : texts) {
+            QVERIFY2(text->property("lineCount").toInt() <= 1, qPrintable(text->property("text").toString()));
+            QVERIFY(text->property("height").toReal() < 24);
+        }
+        QVERIFY(screen.find("activityTitle")->property("truncated").toBool());
+        // Nothing spills into the card's padding at the bottom.
+        QQuickItem* card = screen.find("card");
+        for (const char* row : {"titleRow", "questionRow", "categoryGrid", "dismissRow"}) {
+            const QRectF box =
+                screen.find(row)->mapRectToItem(card, QRectF(QPointF(), screen.find(row)->size()));
+            QVERIFY2(box.top() >= 14 && box.bottom() <= card->height() - 14,
+                     qPrintable(QStringLiteral("%1: %2..%3").arg(row).arg(box.top()).arg(box.bottom())));
+        }
+        for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+            screen.setColorScheme(scheme);
+            QVERIFY(screen.saveScreenshot("approval", "long-names"));
+        }
+    }
+
+    void presenterShowsItFloatingAndClosesItOnTheAnswer() {
+        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+        QtAppPresenter presenter;
+        Answers answers;
+        presenter.showApprovalPopup(mystery(), Category::seeded(), {1, 4, 6, 10, 16, 17},
+                                    [&](std::optional<std::int64_t> id) {
+                                        answers.push_back(id);
+                                        presenter.closeApprovalPopup();
+                                    });
+        QPointer<FloatingWindow> window = presenter.approvalWindow();
+        QVERIFY(window && window->view());
+        QVERIFY(QTest::qWaitForWindowExposed(window));
+        // Without a screen the window stays where it is.
+        QCOMPARE(FloatingWindow::bottomRightPosition(nullptr, {340, 200}, {5, 6}), QPoint(5, 6));
+        const Qt::WindowFlags flags = window->flags();
+        QVERIFY(flags.testFlag(Qt::WindowDoesNotAcceptFocus));
+        QVERIFY(flags.testFlag(Qt::WindowStaysOnTopHint));
+        QVERIFY(flags.testFlag(Qt::FramelessWindowHint));
+        QCOMPARE(flags & Qt::WindowType_Mask, Qt::Tool);
+        QCOMPARE(window->title(), QStringLiteral("Larkspan \u2014 Quick check-in"));
+        QCOMPARE(window->color(), QColor(Qt::transparent));
+        QCOMPARE(window->size(), QSize(340, 200));
+        const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+        QCOMPARE(window->position(), QPoint(area.right() + 1 - 20 - 340, area.bottom() + 1 - 20 - 200));
+
+        // Dragging the background asks the window system to move the window, quietly.
+        QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, QPoint(200, 6));
+        for (int step = 1; step <= 5; ++step)
+            QTest::mouseMove(window, QPoint(200 - 8 * step, 6 + 2 * step));
+        QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, QPoint(160, 16));
+        QVERIFY(answers.empty());
+
+        QQuickItem* button = findIn(window->contentItem(), "category-2");
+        QVERIFY(button);
+        clickItem(window, button);
+        QCOMPARE(answers, Answers{6});
+        QVERIFY(!window->isVisible());
+
+        // The next card replaces the window; the old one goes once the event loop runs.
+        presenter.showApprovalPopup(mystery(), Category::seeded(), {1}, [](auto) {});
+        QVERIFY(presenter.approvalWindow() != window);
+        QVERIFY(presenter.approvalWindow()->isVisible());
+        QTRY_VERIFY(!window);
+        // Closing an unanswered card stops its countdown for good.
+        presenter.closeApprovalPopup();
+        QVERIFY(!presenter.approvalWindow()->isVisible());
+        auto* controller = presenter.approvalWindow()->findChild<ApprovalPopupController*>();
+        QVERIFY(controller);
+        QVERIFY(!controller->counting());
+        QCOMPARE(answers.size(), 1u);
+    }
+};
+
+QTEST_MAIN(ApprovalPopupViewTest)
+#include "ApprovalPopupViewTest.moc"

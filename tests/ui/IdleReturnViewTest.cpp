@@ -1,0 +1,125 @@
+// The welcome-back card on screen: the time away, the five answers, "Dismiss" answering as "Break",
+// and its floating window as the presenter shows it, closes it on the answer and replaces it.
+#include <QPointer>
+#include <QScreen>
+#include <QTest>
+
+#include "App/ui/QtAppPresenter.h"
+#include "QuickScreen.h"
+#include "Review/ui/IdleReturnController.h"
+
+using namespace larkspan;
+
+namespace {
+
+const QByteArray scene = R"(
+import QtQuick
+import Larkspan
+
+Rectangle {
+    color: Qt.darker(palette.window, 1.25)
+    // Made with its controller as an initial property, as the floating window makes it.
+    Loader {
+        objectName: "card"
+        x: 20
+        y: 20
+        width: 340
+        height: 200
+        Component.onCompleted: setSource("qrc:/qt/qml/Larkspan/IdleReturnView.qml", {controller: cardController})
+    }
+}
+)";
+const QSize sceneSize{380, 240};
+
+QQuickItem* findIn(QQuickItem* item, const QString& name) {
+    if (item->objectName() == name)
+        return item;
+    for (QQuickItem* child : item->childItems())
+        if (QQuickItem* found = findIn(child, name))
+            return found;
+    return nullptr;
+}
+
+// Shows the card over `controller`.
+bool load(QuickScreen& screen, IdleReturnController& controller) {
+    screen.setContextProperty(QStringLiteral("cardController"), &controller);
+    return screen.loadText(scene, {}, sceneSize);
+}
+
+}  // namespace
+
+class IdleReturnViewTest : public QObject {
+    Q_OBJECT
+private slots:
+    void showsTheAbsenceAndAnswersEachOption() {
+        std::vector<std::int64_t> answers;
+        IdleReturnController controller(IdleReturn(5400, [&](std::int64_t id) { answers.push_back(id); }));
+        // After the controllers, so that the views go first.
+        QuickScreen screen;
+        QVERIFY(load(screen, controller));
+        QCOMPARE(screen.text("message"), QStringLiteral("You were away for 1h 30m. What were you doing?"));
+        const QStringList labels = {"Break", "Lunch", "On Call", "Away", "Meeting"};
+        for (int i = 0; i < labels.size(); ++i)
+            QCOMPARE(screen.find(QStringLiteral("option-%1").arg(i))->property("text").toString(), labels[i]);
+        QVERIFY(!screen.find("option-5"));
+        QVERIFY(screen.find("message")->property("lineCount").toInt() <= 2);
+        for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+            screen.setColorScheme(scheme);
+            QVERIFY(screen.saveScreenshot("idle-return", "options"));
+        }
+        QVERIFY(screen.click("option-2"));
+        QVERIFY(screen.click("option-0"));
+        QCOMPARE(answers, std::vector<std::int64_t>{6});
+    }
+
+    void dismissAnswersAsBreak() {
+        std::vector<std::int64_t> dismissed, broke;
+        IdleReturnController dismissing(IdleReturn(400, [&](std::int64_t id) { dismissed.push_back(id); }));
+        IdleReturnController breaking(IdleReturn(400, [&](std::int64_t id) { broke.push_back(id); }));
+        // After the controllers, so that the views go first.
+        QuickScreen screen;
+        QVERIFY(load(screen, dismissing));
+        QCOMPARE(screen.text("message"), QStringLiteral("You were away for 6 min. What were you doing?"));
+        QVERIFY(screen.click("dismiss"));
+        QVERIFY(load(screen, breaking));
+        QVERIFY(screen.click("option-0"));
+        QCOMPARE(dismissed, std::vector<std::int64_t>{15});
+        QCOMPARE(dismissed, broke);
+    }
+
+    void presenterShowsItFloatingAndClosesItOnTheAnswer() {
+        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+        QtAppPresenter presenter;
+        std::vector<std::int64_t> answers;
+        presenter.showReturnFromIdlePopup(720, [&](std::int64_t id) {
+            answers.push_back(id);
+            presenter.closeIdlePopup();
+        });
+        QPointer<FloatingWindow> window = presenter.idleWindow();
+        QVERIFY(window && window->view());
+        QVERIFY(QTest::qWaitForWindowExposed(window));
+        QVERIFY(window->flags().testFlag(Qt::WindowDoesNotAcceptFocus));
+        QVERIFY(window->flags().testFlag(Qt::WindowStaysOnTopHint));
+        QCOMPARE(window->flags() & Qt::WindowType_Mask, Qt::Tool);
+        QCOMPARE(window->title(), QStringLiteral("Larkspan \u2014 Welcome back"));
+        const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+        QCOMPARE(window->geometry(),
+                 QRect(area.right() + 1 - 20 - 340, area.bottom() + 1 - 20 - 200, 340, 200));
+
+        QQuickItem* meeting = findIn(window->contentItem(), "option-4");
+        QVERIFY(meeting);
+        QTest::mouseClick(
+            window, Qt::LeftButton, Qt::NoModifier,
+            meeting->mapToScene(QPointF(meeting->width() / 2, meeting->height() / 2)).toPoint());
+        QCOMPARE(answers, std::vector<std::int64_t>{6});
+        QVERIFY(!window->isVisible());
+
+        presenter.showReturnFromIdlePopup(900, [](std::int64_t) {});
+        QVERIFY(presenter.idleWindow() != window);
+        QVERIFY(presenter.idleWindow()->isVisible());
+        QTRY_VERIFY(!window);
+    }
+};
+
+QTEST_MAIN(IdleReturnViewTest)
+#include "IdleReturnViewTest.moc"
