@@ -27,6 +27,8 @@ struct Case {
     std::vector<TitleSegment> expected;
 };
 
+void PrintTo(const Case& c, std::ostream* out) { *out << c.name; }
+
 class StatusTitleCases : public ::testing::TestWithParam<Case> {};
 
 TEST_P(StatusTitleCases, BuildsTheSegments) {
