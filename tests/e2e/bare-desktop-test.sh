@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # The tracker on a desktop with nothing but an X server and a window manager: no session bus, no
 # tray host, no notification daemon, no sound server, and a settings folder it cannot write. It must
-# still record, open its dashboard in place of the tray, say once what is missing, and quit cleanly on
-# SIGTERM.
+# still record, open its dashboard in place of the tray (closing it keeps tracking), say once what is
+# missing, show its icon when a tray host arrives late, and quit cleanly on SIGTERM.
 # Usage: bare-desktop-test.sh path/to/larkspan
 set -euo pipefail
 larkspan=$1
@@ -21,8 +21,20 @@ wait_until 10 xdotool search --onlyvisible --name '^Larkspan$' || fail "no dashb
 xdotool windowactivate --sync "$terminal"
 stored() { [ "$(db "SELECT count(*) FROM activities WHERE app_name = 'kitty'" 2>/dev/null || echo 0)" -gt 0 ]; }
 wait_until 10 stored || fail "nothing recorded without a bus or a tray"
-# Several tray checks and samples go by; the missing tray is still reported once.
-sleep 9
+# Closing the dashboard hides it; tracking goes on.
+xdotool windowactivate --sync "$(xdotool search --onlyvisible --name '^Larkspan$' | head -n 1)"
+xdotool key alt+F4
+dashboard_gone() { ! xdotool search --onlyvisible --name '^Larkspan$'; }
+wait_until 10 dashboard_gone || fail "the dashboard did not close"
+ledger=$(open_window Ledger "March budget")
+xdotool windowactivate --sync "$ledger"
+stored_after_close() { [ "$(db "SELECT count(*) FROM activities WHERE app_name = 'Ledger'" 2>/dev/null || echo 0)" -gt 0 ]; }
+wait_until 10 stored_after_close || fail "closing the dashboard stopped tracking"
+
+# A tray host that arrives late gets the icon; the missing tray was still reported only once.
+sleep 3
+start_tray_host
+wait_until 10 tray_icon_window "$tracker" || fail "no tray icon once a host appeared"
 
 kill -TERM "$tracker"
 status=0

@@ -69,8 +69,21 @@ start_desktop() {
     export DBUS_SESSION_BUS_ADDRESS
     background dbus-daemon --session --nofork --address="$DBUS_SESSION_BUS_ADDRESS"
     wait_until 10 test -S "$XDG_RUNTIME_DIR/bus" || fail "no session bus"
+    start_tray_host
+}
+
+start_tray_host() {
     background trayer --edge top --align right --widthtype request --height 24 --SetDockType true
     wait_until 10 xdotool search --class trayer || fail "no tray host"
+}
+
+# tray_icon_window PID: the process's tray icon, the only one of its windows the size of a tray slot.
+tray_icon_window() {
+    local id
+    for id in $(xdotool search --onlyvisible --pid "$1" 2>/dev/null); do
+        xdotool getwindowgeometry "$id" | grep -q 'Geometry: 2[0-9]x2[0-9]' && { echo "$id"; return 0; }
+    done
+    return 1
 }
 
 # open_window CLASS TITLE: an xterm that keeps its title, printed as a window id once mapped.

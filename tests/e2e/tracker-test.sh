@@ -107,15 +107,8 @@ wait_until 10 has_rows_above "$before" || fail "no new activity after the restar
 check "categories after restart" 21 "SELECT count(*) FROM categories"
 
 # Quit through the tray menu: right-click the icon, then the menu's last entry.
-icon_window() {
-    local id
-    for id in $(xdotool search --onlyvisible --pid "$tracker" 2>/dev/null); do
-        xdotool getwindowgeometry "$id" | grep -q 'Geometry: 2[0-9]x2[0-9]' && { echo "$id"; return 0; }
-    done
-    return 1
-}
-wait_until 10 icon_window || fail "no tray icon"
-xdotool mousemove --window "$(icon_window)" 8 8 click 3
+wait_until 10 tray_icon_window "$tracker" || fail "no tray icon"
+xdotool mousemove --window "$(tray_icon_window "$tracker")" 8 8 click 3
 sleep 1
 xdotool key Up Return
 ended() { [ ! -d "/proc/$tracker" ] || grep -q '^State:.*Z' "/proc/$tracker/status"; }
