@@ -1,5 +1,6 @@
 // Larkspan's entry: one tracker per session, the store, the desktop behind the seams, the delegate
 // that wires them, and the Qt event loop until the menu's Quit or SIGTERM/SIGINT.
+#include <QtGui/qguiapplication_platform.h>
 #include <QApplication>
 
 #include <cstdio>
@@ -11,6 +12,7 @@
 #include "App/ui/SingleInstance.h"
 #include "App/ui/TerminationSignals.h"
 #include "Data/Database.h"
+#include "Platform/Linux/AllDesktops.h"
 #include "Platform/Linux/AppIdentity.h"
 #include "Platform/Linux/CanberraSoundPlayer.h"
 #include "Platform/Linux/DesktopEntries.h"
@@ -81,6 +83,10 @@ int main(int argc, char** argv) {
     presenter.attach(database, *delegate->sessionManager(), *delegate->pomodoroTimer());
     presenter.setOpenDashboard([&delegate] { delegate->menuBarController()->menuOpenDashboard(); });
     presenter.openDashboardWithoutTray();
+    if (const auto* x11 = app.nativeInterface<QNativeInterface::QX11Application>()) {
+        presenter.setShowOnAllDesktops(
+            [connection = x11->connection()](WId window) { showOnAllDesktops(connection, window); });
+    }
 
     TrayIcon& tray = presenter.tray();
     QObject::connect(&tray, &TrayIcon::popoverToggleRequested, [&presenter] { presenter.togglePopover(); });

@@ -77,6 +77,13 @@ xdotool getwindowgeometry "$popup" | grep -q 'Position: 920,580 ' ||
     fail "approval card not at the bottom right: $(xdotool getwindowgeometry "$popup")"
 xdotool getwindowgeometry "$popup" | grep -q 'Geometry: 340x200' || fail "approval card not 340x200"
 check "pending row" "0|21" "SELECT is_approved, category_id FROM activities WHERE app_name = 'Mystery'"
+# The card follows the user to another virtual desktop and back.
+xdotool set_desktop 1
+sleep 0.5
+[ "$(xdotool get_desktop)" = 1 ] || fail "could not switch to the second desktop"
+popup_window >/dev/null || fail "the approval card stayed behind on the first desktop"
+xdotool set_desktop 0
+xdotool windowactivate --sync "$terminal"
 # The grid offers the most used categories first: Terminal, with two rows, holds the first button.
 xdotool mousemove --window "$popup" 60 100 click 1
 popup_gone() { ! xdotool search --onlyvisible --name 'Larkspan — Quick check-in'; }

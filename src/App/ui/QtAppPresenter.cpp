@@ -56,7 +56,7 @@ void QtAppPresenter::showApprovalPopup(const ActivityRecord& record, const std::
     controller->setParent(window.get());
     approvalController_ = controller;
     replaceWindow(approvalWindow_, std::move(window));
-    approvalWindow_->showAtBottomRight();
+    present(*approvalWindow_);
 }
 
 void QtAppPresenter::closeApprovalPopup() {
@@ -74,7 +74,15 @@ void QtAppPresenter::showReturnFromIdlePopup(double idleDuration, IdleAnswer onR
         QVariantMap{{QStringLiteral("controller"), QVariant::fromValue(controller)}}, kIdleTitle);
     controller->setParent(window.get());
     replaceWindow(idleWindow_, std::move(window));
-    idleWindow_->showAtBottomRight();
+    present(*idleWindow_);
+}
+
+void QtAppPresenter::present(FloatingWindow& window) {
+    if (showOnAllDesktops_) {
+        window.create();
+        showOnAllDesktops_(window.winId());
+    }
+    window.showAtBottomRight();
 }
 
 void QtAppPresenter::closeIdlePopup() {

@@ -48,12 +48,17 @@ public:
     void togglePopover();
     // What the popover's "Open Dashboard" does after closing the popover.
     void setOpenDashboard(std::function<void()> action) { openDashboard_ = std::move(action); }
+    // How the desktop is asked to show a floating prompt's created, still hidden window on every
+    // virtual desktop; nothing is asked when unset.
+    void setShowOnAllDesktops(std::function<void(WId)> action) { showOnAllDesktops_ = std::move(action); }
 
     // The floating prompts' windows as last shown; null before the first. Closing only hides them.
     FloatingWindow* approvalWindow() const { return approvalWindow_.get(); }
     FloatingWindow* idleWindow() const { return idleWindow_.get(); }
 
 private:
+    void present(FloatingWindow& window);
+
     TrayIcon tray_;
     QQmlEngine engine_;
     Database* database_ = nullptr;
@@ -62,6 +67,7 @@ private:
     std::unique_ptr<DashboardWindow> dashboard_;  // made at the first request, then reused
     SystemClock clock_;
     std::function<void()> openDashboard_;
+    std::function<void(WId)> showOnAllDesktops_;
     // Made by attach; the summary refreshes from then on, also while the popover is closed.
     std::unique_ptr<QuickSummaryController> quickSummary_;
     std::unique_ptr<QuickSummaryPopover> popover_;
