@@ -84,8 +84,9 @@ int main(int argc, char** argv) {
     presenter.setOpenDashboard([&delegate] { delegate->menuBarController()->menuOpenDashboard(); });
     presenter.openDashboardWithoutTray();
     if (const auto* x11 = app.nativeInterface<QNativeInterface::QX11Application>()) {
-        presenter.setShowOnAllDesktops(
-            [connection = x11->connection()](WId window) { showOnAllDesktops(connection, window); });
+        presenter.setShowOnAllDesktops([connection = x11->connection()](WId window) {
+            showOnAllDesktops(connection, static_cast<std::uint32_t>(window));
+        });
     }
 
     TrayIcon& tray = presenter.tray();
