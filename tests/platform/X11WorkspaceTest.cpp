@@ -65,16 +65,16 @@ protected:
     }
 
     // Creates a test window and waits until it is shown.
-    std::string show(test::TestWindows& windows, const test::TestWindows::Spec& spec) {
-        const auto id = windows.create(spec);
+    std::string show(test::TestWindows& windows, const test::TestWindows::Properties& properties) {
+        const auto id = windows.create(properties);
         const auto name = std::to_string(id);
         for (int attempt = 0; attempt < 10; ++attempt) {
-            const auto shown = display->windowsOfClass(spec.wmClass, 500ms);
+            const auto shown = display->windowsOfClass(properties.wmClass, 500ms);
             if (std::find(shown.begin(), shown.end(), name) != shown.end())
                 return name;
             windows.map(id);
         }
-        ADD_FAILURE() << spec.title << " was never shown";
+        ADD_FAILURE() << properties.title << " was never shown";
         return name;
     }
 

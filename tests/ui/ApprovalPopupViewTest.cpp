@@ -16,42 +16,12 @@ namespace {
 
 using Answers = std::vector<std::optional<std::int64_t>>;
 
-// The card on a backdrop wider than itself, so that the pointer can leave it and the screenshots
-// show its corners and border. Its controller is the context object "cardController".
-const QByteArray scene = R"(
-import QtQuick
-import Larkspan
-
-Rectangle {
-    color: Qt.darker(palette.window, 1.25)
-    // Made with its controller as an initial property, as the floating window makes it.
-    Loader {
-        objectName: "card"
-        x: 20
-        y: 20
-        width: 340
-        height: 200
-        Component.onCompleted: setSource("qrc:/qt/qml/Larkspan/ApprovalPopupView.qml", {controller: cardController})
-    }
-}
-)";
-const QSize sceneSize{380, 240};
-
 ActivityRecord mystery(std::string title = "Mystery") {
     ActivityRecord record;
     record.id = 42;
     record.appName = "Mystery";
     record.windowTitle = std::move(title);
     return record;
-}
-
-QQuickItem* findIn(QQuickItem* item, const QString& name) {
-    if (item->objectName() == name)
-        return item;
-    for (QQuickItem* child : item->childItems())
-        if (QQuickItem* found = findIn(child, name))
-            return found;
-    return nullptr;
 }
 
 // Every Text item below `item`.
@@ -67,12 +37,6 @@ void clickItem(QQuickWindow* window, QQuickItem* item) {
                       item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint());
 }
 
-// Shows the card over `controller`.
-bool load(QuickScreen& screen, ApprovalPopupController& controller) {
-    screen.setContextProperty(QStringLiteral("cardController"), &controller);
-    return screen.loadText(scene, {}, sceneSize);
-}
-
 }  // namespace
 
 class ApprovalPopupViewTest : public QObject {
@@ -85,7 +49,7 @@ private slots:
                                                          [&](auto id) { answers.push_back(id); }));
         // After the controllers, so that the views go first.
         QuickScreen screen;
-        QVERIFY(load(screen, controller));
+        QVERIFY(screen.loadCard(QStringLiteral("ApprovalPopupView"), &controller));
         QCOMPARE(screen.text("activityTitle"), QStringLiteral("Quarterly plan.odt"));
         QCOMPARE(screen.text("countdown"), QStringLiteral("45s"));
         QVERIFY(controller.counting());
@@ -113,11 +77,11 @@ private slots:
             ApprovalPopup(mystery(), Category::seeded(), {1}, [&](auto id) { timedOut.push_back(id); }), 5ms);
         // After the controllers, so that the views go first.
         QuickScreen screen;
-        QVERIFY(load(screen, skipping));
+        QVERIFY(screen.loadCard(QStringLiteral("ApprovalPopupView"), &skipping));
         QVERIFY(screen.click("skip"));
         QCOMPARE(skipped, Answers{std::nullopt});
 
-        QVERIFY(load(screen, running));
+        QVERIFY(screen.loadCard(QStringLiteral("ApprovalPopupView"), &running));
         QTRY_COMPARE(timedOut, Answers{std::nullopt});
         QCOMPARE(screen.text("countdown"), QStringLiteral("0s"));
         QTest::qWait(50);
@@ -131,7 +95,7 @@ private slots:
             40ms);
         // After the controllers, so that the views go first.
         QuickScreen screen;
-        QVERIFY(load(screen, controller));
+        QVERIFY(screen.loadCard(QStringLiteral("ApprovalPopupView"), &controller));
         QTRY_VERIFY(controller.countdown() <= 43);
         // Resting on a button holds the card as well as resting on its background.
         QVERIFY(screen.hover("category-0"));
@@ -157,7 +121,7 @@ private slots:
                                                          [&](auto id) { answers.push_back(id); }));
         // After the controllers, so that the views go first.
         QuickScreen screen;
-        QVERIFY(load(screen, controller));
+        QVERIFY(screen.loadCard(QStringLiteral("ApprovalPopupView"), &controller));
         QVERIFY(screen.find("category-1"));
         QVERIFY(!screen.find("category-2"));
         QCOMPARE(screen.find("category-1")->property("text").toString(), QStringLiteral("AI Tools"));
@@ -169,16 +133,17 @@ private slots:
 
         QVERIFY(screen.click("more"));
         QQuickItem* overlay = screen.window()->contentItem();
-        QTRY_VERIFY(findIn(overlay, "menu-0") && findIn(overlay, "menu-0")->isVisible());
-        QCOMPARE(findIn(overlay, "menu-0")->property("text").toString(), QStringLiteral("\U0001F4BB Coding"));
-        QVERIFY(findIn(overlay, "menu-18"));
-        QVERIFY(!findIn(overlay, "menu-19"));
+        QTRY_VERIFY(findItem(overlay, "menu-0") && findItem(overlay, "menu-0")->isVisible());
+        QCOMPARE(findItem(overlay, "menu-0")->property("text").toString(),
+                 QStringLiteral("\U0001F4BB Coding"));
+        QVERIFY(findItem(overlay, "menu-18"));
+        QVERIFY(!findItem(overlay, "menu-19"));
         QTest::qWait(100);
         for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
             screen.setColorScheme(scheme);
             QVERIFY(screen.saveScreenshot("approval", "more-menu"));
         }
-        clickItem(screen.window(), findIn(overlay, "menu-1"));
+        clickItem(screen.window(), findItem(overlay, "menu-1"));
         QCOMPARE(answers, Answers{2});
     }
 
@@ -195,7 +160,7 @@ private slots:
             ApprovalPopup(mystery(title), categories, {1, 2, 3, 4, 5, 6}, [](auto) {}));
         // After the controllers, so that the views go first.
         QuickScreen screen;
-        QVERIFY(load(screen, controller));
+        QVERIFY(screen.loadCard(QStringLiteral("ApprovalPopupView"), &controller));
         QList<QQuickItem*> texts;
         collectTexts(screen.find("card"), texts);
         QVERIFY(texts.size() > 12);
@@ -250,7 +215,7 @@ private slots:
         QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, QPoint(160, 16));
         QVERIFY(answers.empty());
 
-        QQuickItem* button = findIn(window->contentItem(), "category-2");
+        QQuickItem* button = findItem(window->contentItem(), "category-2");
         QVERIFY(button);
         clickItem(window, button);
         QCOMPARE(answers, Answers{6});

@@ -10,44 +10,6 @@
 
 using namespace larkspan;
 
-namespace {
-
-const QByteArray scene = R"(
-import QtQuick
-import Larkspan
-
-Rectangle {
-    color: Qt.darker(palette.window, 1.25)
-    // Made with its controller as an initial property, as the floating window makes it.
-    Loader {
-        objectName: "card"
-        x: 20
-        y: 20
-        width: 340
-        height: 200
-        Component.onCompleted: setSource("qrc:/qt/qml/Larkspan/IdleReturnView.qml", {controller: cardController})
-    }
-}
-)";
-const QSize sceneSize{380, 240};
-
-QQuickItem* findIn(QQuickItem* item, const QString& name) {
-    if (item->objectName() == name)
-        return item;
-    for (QQuickItem* child : item->childItems())
-        if (QQuickItem* found = findIn(child, name))
-            return found;
-    return nullptr;
-}
-
-// Shows the card over `controller`.
-bool load(QuickScreen& screen, IdleReturnController& controller) {
-    screen.setContextProperty(QStringLiteral("cardController"), &controller);
-    return screen.loadText(scene, {}, sceneSize);
-}
-
-}  // namespace
-
 class IdleReturnViewTest : public QObject {
     Q_OBJECT
 private slots:
@@ -56,7 +18,7 @@ private slots:
         IdleReturnController controller(IdleReturn(5400, [&](std::int64_t id) { answers.push_back(id); }));
         // After the controllers, so that the views go first.
         QuickScreen screen;
-        QVERIFY(load(screen, controller));
+        QVERIFY(screen.loadCard(QStringLiteral("IdleReturnView"), &controller));
         QCOMPARE(screen.text("message"), QStringLiteral("You were away for 1h 30m. What were you doing?"));
         const QStringList labels = {"Break", "Lunch", "On Call", "Away", "Meeting"};
         for (int i = 0; i < labels.size(); ++i)
@@ -78,10 +40,10 @@ private slots:
         IdleReturnController breaking(IdleReturn(400, [&](std::int64_t id) { broke.push_back(id); }));
         // After the controllers, so that the views go first.
         QuickScreen screen;
-        QVERIFY(load(screen, dismissing));
+        QVERIFY(screen.loadCard(QStringLiteral("IdleReturnView"), &dismissing));
         QCOMPARE(screen.text("message"), QStringLiteral("You were away for 6 min. What were you doing?"));
         QVERIFY(screen.click("dismiss"));
-        QVERIFY(load(screen, breaking));
+        QVERIFY(screen.loadCard(QStringLiteral("IdleReturnView"), &breaking));
         QVERIFY(screen.click("option-0"));
         QCOMPARE(dismissed, std::vector<std::int64_t>{15});
         QCOMPARE(dismissed, broke);
@@ -106,7 +68,7 @@ private slots:
         QCOMPARE(window->geometry(),
                  QRect(area.right() + 1 - 20 - 340, area.bottom() + 1 - 20 - 200, 340, 200));
 
-        QQuickItem* meeting = findIn(window->contentItem(), "option-4");
+        QQuickItem* meeting = findItem(window->contentItem(), "option-4");
         QVERIFY(meeting);
         QTest::mouseClick(
             window, Qt::LeftButton, Qt::NoModifier,

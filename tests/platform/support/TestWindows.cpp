@@ -43,7 +43,7 @@ bool TestWindows::connected() const {
     return connection_->screen != nullptr;
 }
 
-std::uint32_t TestWindows::create(const Spec& spec) {
+std::uint32_t TestWindows::create(const Properties& properties) {
     if (!connected())
         return 0;
     auto& k = *connection_;
@@ -51,19 +51,20 @@ std::uint32_t TestWindows::create(const Spec& spec) {
     const std::uint32_t values[] = {k.screen->white_pixel};
     xcb_create_window(k.c, XCB_COPY_FROM_PARENT, w, k.screen->root, 0, 0, 320, 200, 0,
                       XCB_WINDOW_CLASS_INPUT_OUTPUT, k.screen->root_visual, XCB_CW_BACK_PIXEL, values);
-    const std::string wmClass = spec.instance + '\0' + spec.wmClass + '\0';
+    const std::string wmClass = properties.instance + '\0' + properties.wmClass + '\0';
     k.set(w, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 8, static_cast<std::uint32_t>(wmClass.size()),
           wmClass.data());
-    k.set(w, k.atom("_NET_WM_NAME"), k.atom("UTF8_STRING"), 8, static_cast<std::uint32_t>(spec.title.size()),
-          spec.title.data());
+    k.set(w, k.atom("_NET_WM_NAME"), k.atom("UTF8_STRING"), 8,
+          static_cast<std::uint32_t>(properties.title.size()), properties.title.data());
     const std::uint32_t pid = static_cast<std::uint32_t>(getpid());
     k.set(w, k.atom("_NET_WM_PID"), XCB_ATOM_CARDINAL, 32, 1, &pid);
-    if (!spec.gtkApplicationID.empty()) {
+    if (!properties.gtkApplicationID.empty()) {
         k.set(w, k.atom("_GTK_APPLICATION_ID"), k.atom("UTF8_STRING"), 8,
-              static_cast<std::uint32_t>(spec.gtkApplicationID.size()), spec.gtkApplicationID.data());
+              static_cast<std::uint32_t>(properties.gtkApplicationID.size()),
+              properties.gtkApplicationID.data());
     }
-    if (spec.transientFor)
-        k.set(w, XCB_ATOM_WM_TRANSIENT_FOR, XCB_ATOM_WINDOW, 32, 1, &spec.transientFor);
+    if (properties.transientFor)
+        k.set(w, XCB_ATOM_WM_TRANSIENT_FOR, XCB_ATOM_WINDOW, 32, 1, &properties.transientFor);
     xcb_map_window(k.c, w);
     xcb_flush(k.c);
     return w;

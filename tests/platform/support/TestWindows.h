@@ -10,7 +10,7 @@ namespace larkspan::test {
 
 class TestWindows {
 public:
-    struct Spec {
+    struct Properties {
         std::string instance{};
         std::string wmClass{};
         std::string title{};
@@ -24,7 +24,7 @@ public:
     bool connected() const;
 
     // Creates and maps a window with this process's pid in _NET_WM_PID. Returns its id, 0 on failure.
-    std::uint32_t create(const Spec& spec);
+    std::uint32_t create(const Properties& properties);
     // Asks again for the window to be shown; a window manager still starting may drop the first request.
     void map(std::uint32_t window);
 

@@ -82,6 +82,29 @@ bool QuickScreen::loadText(const QByteArray& qml, const QVariantMap& properties,
     return create(qml, properties, size);
 }
 
+bool QuickScreen::loadCard(const QString& typeName, QObject* controller) {
+    setContextProperty(QStringLiteral("cardController"), controller);
+    const QByteArray scene = QStringLiteral(R"(
+import QtQuick
+import Larkspan
+
+Rectangle {
+    color: Qt.darker(palette.window, 1.25)
+    Loader {
+        objectName: "card"
+        x: 20
+        y: 20
+        width: 340
+        height: 200
+        Component.onCompleted: setSource("qrc:/qt/qml/Larkspan/%1.qml", {controller: cardController})
+    }
+}
+)")
+                                 .arg(typeName)
+                                 .toUtf8();
+    return loadText(scene, {}, {380, 240});
+}
+
 bool QuickScreen::create(const QByteArray& qml, const QVariantMap& properties, QSize size) {
     object_.reset();
     ownWindow_.reset();
@@ -120,9 +143,6 @@ void QuickScreen::setColorScheme(ColorScheme scheme) {
         window_->setColor(palette.color(QPalette::Window));
 }
 
-namespace {
-
-// Depth first over the visual tree, which also reaches delegates and the insides of controls.
 QQuickItem* findItem(QQuickItem* item, const QString& objectName) {
     if (item->objectName() == objectName)
         return item;
@@ -131,8 +151,6 @@ QQuickItem* findItem(QQuickItem* item, const QString& objectName) {
             return found;
     return nullptr;
 }
-
-}  // namespace
 
 QQuickItem* QuickScreen::find(const QString& objectName) const {
     return root_ ? findItem(root_, objectName) : nullptr;

@@ -21,6 +21,10 @@ namespace larkspan {
 
 enum class ColorScheme { light, dark };
 
+// The first item named `objectName` at or below `item`, depth first over the visual tree, which also
+// reaches delegates and the insides of controls; null when there is none.
+QQuickItem* findItem(QQuickItem* item, const QString& objectName);
+
 // The fixed palette of a scheme.
 QPalette schemePalette(ColorScheme scheme);
 
@@ -41,6 +45,10 @@ public:
     bool load(const QString& typeName, const QVariantMap& properties = {}, QSize size = {360, 480});
     // The same for a QML text, which may import `Larkspan` and anything else.
     bool loadText(const QByteArray& qml, const QVariantMap& properties = {}, QSize size = {360, 480});
+    // Loads the floating card `typeName` ("IdleReturnView") over `controller`, which it gets as an
+    // initial property as in its floating window, on a backdrop 20 pixels wider on every side: the
+    // screenshots show its corners and the pointer can leave it.
+    bool loadCard(const QString& typeName, QObject* controller);
 
     QQuickWindow* window() const { return window_; }
     QQuickItem* root() const { return root_; }
