@@ -1,4 +1,5 @@
 #include "App/Dashboard.h"
+#include "App/Glyphs.h"
 
 #include <algorithm>
 
@@ -66,16 +67,9 @@ std::optional<LiveSessionCard> liveSessionCard(const std::optional<ActivityRecor
                                                const std::vector<Category>& categories) {
     if (!session)
         return std::nullopt;
-    const Category* category = nullptr;
-    if (session->categoryID) {
-        const auto found =
-            std::find_if(categories.begin(), categories.end(),
-                         [id = *session->categoryID](const Category& c) { return c.id == id; });
-        if (found != categories.end())
-            category = &*found;
-    }
+    const Category* category = categoryWithID(categories, session->categoryID);
     LiveSessionCard card;
-    card.icon = category ? category->icon : "\u23F1";
+    card.icon = category ? category->icon : glyph::stopwatch;
     card.title = session->displayTitle();
     card.status = std::string("Live \u00B7 ") + (category ? category->name : "Tracking");
     card.color = category ? category->color() : kUnknownCategoryGrey;

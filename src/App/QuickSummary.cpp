@@ -1,27 +1,10 @@
 #include "App/QuickSummary.h"
+#include "App/Glyphs.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace larkspan {
-
-namespace {
-
-const char* const kStopwatch = "\u23F1";
-const char* const kCup = "\u2615";
-const char* const kTomato = "\U0001F345";
-const char* const kQuestionMark = "\u2753";
-
-const Category* find(const std::map<std::int64_t, Category>& categories,
-                     const std::optional<std::int64_t>& id) {
-    if (!id) {
-        return nullptr;
-    }
-    const auto found = categories.find(*id);
-    return found == categories.end() ? nullptr : &found->second;
-}
-
-}  // namespace
 
 std::string formatSeconds(std::int64_t seconds) {
     if (seconds < 60) {
@@ -50,8 +33,8 @@ std::vector<RecentRow> recentRows(const std::vector<ActivityRecord>& recent,
         if (rows.size() == kRecentRowLimit) {
             break;
         }
-        const Category* category = find(categories, activity.categoryID);
-        rows.push_back({category ? category->icon : kQuestionMark, activity.displayTitle(),
+        const Category* category = categoryWithID(categories, activity.categoryID);
+        rows.push_back({category ? category->icon : glyph::questionMark, activity.displayTitle(),
                         activity.startTime, formatSeconds(activity.durationSeconds)});
     }
     return rows;
@@ -71,7 +54,7 @@ Breakdown breakdown(const std::optional<DaySummary>& summary,
     ranked.resize(std::min(ranked.size(), kBreakdownPlaces));
     const std::int64_t total = summary->totalSeconds;
     for (const auto& [id, seconds] : ranked) {
-        const Category* category = find(categories, id);
+        const Category* category = categoryWithID(categories, id);
         if (!category) {
             continue;
         }
@@ -109,11 +92,11 @@ Color toneColor(ProductivityTone tone) {
 SessionRow sessionRow(const std::optional<ActivityRecord>& session,
                       const std::map<std::int64_t, Category>& categories) {
     if (!session) {
-        return SessionRow{kCup, "No active session", "", std::nullopt, false};
+        return SessionRow{glyph::cup, "No active session", "", std::nullopt, false};
     }
-    const Category* category = find(categories, session->categoryID);
+    const Category* category = categoryWithID(categories, session->categoryID);
     SessionRow row;
-    row.icon = category ? category->icon : kStopwatch;
+    row.icon = category ? category->icon : glyph::stopwatch;
     row.title = session->displayTitle();
     row.subtitle = (category ? category->name : std::string("Uncategorized")) + " \u2022 Now";
     if (category) {
@@ -125,7 +108,7 @@ SessionRow sessionRow(const std::optional<ActivityRecord>& session,
 
 TimerControls timerControls(PomodoroTimer::Mode mode, PomodoroTimer::RunState state) {
     const bool running = state == PomodoroTimer::RunState::running;
-    return TimerControls{mode == PomodoroTimer::Mode::focus ? kTomato : kCup,
+    return TimerControls{mode == PomodoroTimer::Mode::focus ? glyph::tomato : glyph::cup,
                          running ? "pause.fill" : "play.fill", running,
                          state != PomodoroTimer::RunState::idle, running ? 0.06 : 0.0};
 }

@@ -1,15 +1,7 @@
 #include "App/StatusTitle.h"
+#include "App/Glyphs.h"
 
 namespace larkspan {
-
-namespace {
-
-const char* const kStopwatch = "\u23F1";
-const char* const kTomato = "\U0001F345";
-const char* const kCup = "\u2615";
-const char* const kPause = "\u23F8";
-
-}  // namespace
 
 std::string StatusTitle::plainText() const {
     std::string text;
@@ -24,16 +16,11 @@ StatusTitle buildStatusTitle(const std::optional<ActivityRecord>& session, std::
     StatusTitle title;
     title.pendingCount = pendingCount;
     if (!session) {
-        title.icon = kStopwatch;
+        title.icon = glyph::stopwatch;
         title.label = "Starting\u2026";
     } else {
-        const Category* category = nullptr;
-        if (session->categoryID) {
-            auto found = categories.find(*session->categoryID);
-            if (found != categories.end())
-                category = &found->second;
-        }
-        title.icon = category ? category->icon : kStopwatch;
+        const Category* category = categoryWithID(categories, session->categoryID);
+        title.icon = category ? category->icon : glyph::stopwatch;
         if (session->isIdle()) {
             title.label = kAwayAppName;
         } else {
@@ -44,9 +31,10 @@ StatusTitle buildStatusTitle(const std::optional<ActivityRecord>& session, std::
         {title.icon + " " + title.label, 12, TitleWeight::medium, TitleColor::label, false});
 
     if (timer.active) {
-        title.timerMark = timer.focusMode ? kTomato : kCup;
+        title.timerMark = timer.focusMode ? glyph::tomato : glyph::cup;
         title.timerPaused = timer.paused;
-        std::string text = "  " + *title.timerMark + (timer.paused ? kPause : "") + " " + timer.displayTime;
+        std::string text =
+            "  " + *title.timerMark + (timer.paused ? glyph::pause : "") + " " + timer.displayTime;
         title.segments.push_back({std::move(text), 11, TitleWeight::medium,
                                   timer.paused ? TitleColor::secondaryLabel : TitleColor::label, true});
     }

@@ -2,6 +2,7 @@
 // may have been edited by hand, so the parse accepts any text and gives black for what it cannot read.
 #include "Classification/Category.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -133,6 +134,22 @@ const std::vector<Category>& Category::seeded() {
         return list;
     }();
     return catalogue;
+}
+
+const Category* categoryWithID(const std::vector<Category>& categories, std::optional<std::int64_t> id) {
+    if (!id)
+        return nullptr;
+    const auto found =
+        std::find_if(categories.begin(), categories.end(), [&](const Category& c) { return c.id == *id; });
+    return found == categories.end() ? nullptr : &*found;
+}
+
+const Category* categoryWithID(const std::map<std::int64_t, Category>& categories,
+                               std::optional<std::int64_t> id) {
+    if (!id)
+        return nullptr;
+    const auto found = categories.find(*id);
+    return found == categories.end() ? nullptr : &found->second;
 }
 
 }  // namespace larkspan

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -48,6 +49,11 @@ struct Category {
     // The catalogue a new database is seeded with, in order.
     static const std::vector<Category>& seeded();
 };
+
+// The category with `id` in a catalogue; null when `id` is absent or not there.
+const Category* categoryWithID(const std::vector<Category>& categories, std::optional<std::int64_t> id);
+const Category* categoryWithID(const std::map<std::int64_t, Category>& categories,
+                               std::optional<std::int64_t> id);
 
 // The ids of the seeded categories. Rules name categories by these ids, never by name.
 namespace category_id {

@@ -1,21 +1,8 @@
 #include "Timeline/TimelineLabels.h"
 
-#include <algorithm>
 #include <optional>
 
 namespace larkspan {
-
-namespace {
-
-const Category* categoryWithID(const std::vector<Category>& categories, std::optional<std::int64_t> id) {
-    if (!id)
-        return nullptr;
-    auto it =
-        std::find_if(categories.begin(), categories.end(), [&](const Category& c) { return c.id == *id; });
-    return it == categories.end() ? nullptr : &*it;
-}
-
-}  // namespace
 
 std::string formatDuration(std::int64_t seconds) {
     if (seconds < 60)
