@@ -196,6 +196,37 @@ TEST_F(X11WorkspaceTest, ActivationFiresOncePerApplicationNotPerWindow) {
     EXPECT_EQ(activations, afterFirst + 1);
 }
 
+TEST_F(X11WorkspaceTest, OurOwnUtilityWindowLeavesTheApplicationBeforeItInFront) {
+    const pid_t other = xterm("LarkspanOther", "Other");
+    const auto otherWindow = windowOf("LarkspanOther");
+    // This process stands in for Larkspan: a popover-like tool window and an ordinary main window.
+    test::TestWindows windows(display->name());
+    const auto popover = show(windows, {"larkspan", "Larkspan", "Today", "", 0, true});
+    const auto dashboard = show(windows, {"larkspan", "Larkspan", "Larkspan"});
+    auto workspace = makeWorkspace();
+    int activations = 0;
+    workspace->setApplicationActivatedHandler([&] { ++activations; });
+    bringToFront(*workspace, otherWindow, "LarkspanOther");
+    mainQueue->drain();
+    const int before = activations;
+
+    const auto activeIs = [&](const std::string& window) {
+        return test::waitUntil([&] { return display->run({"xdotool", "getactivewindow"}) == window + "\n"; });
+    };
+    display->activate(popover);
+    ASSERT_TRUE(activeIs(popover));
+    EXPECT_EQ(frontmostID(*workspace), "LarkspanOther");
+    EXPECT_EQ(workspace->focusedWindowTitle(other), "Other");
+    EXPECT_EQ(workspace->frontWindowTitle("LarkspanOther"), "Other");
+    std::this_thread::sleep_for(100ms);
+    mainQueue->drain();
+    EXPECT_EQ(activations, before);
+
+    // Larkspan's own ordinary window is Larkspan in front, like any other application.
+    bringToFront(*workspace, dashboard, "Larkspan");
+    EXPECT_EQ(workspace->focusedWindowTitle(getpid()), "Larkspan");
+}
+
 TEST_F(X11WorkspaceTest, ADialogBelongsToItsMainWindowsApplication) {
     test::TestWindows windows(display->name());
     const auto main = show(windows, {"beta", "LarkspanBeta", "Main"});

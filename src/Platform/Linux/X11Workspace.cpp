@@ -29,7 +29,8 @@ X11Workspace::X11Workspace(SessionEnvironment session, std::shared_ptr<AppIdenti
     : session_(std::move(session)),
       identity_(std::move(identity)),
       mainQueue_(std::move(mainQueue)),
-      notifier_(std::move(notifier)) {
+      notifier_(std::move(notifier)),
+      ownPid_(getpid()) {
     if (session_.wayland || session_.display.empty())
         return;
     if (pipe2(wakePipe_, O_CLOEXEC | O_NONBLOCK) != 0)
@@ -66,11 +67,21 @@ std::shared_ptr<XcbConnection> X11Workspace::queryConnection() {
     return query_;
 }
 
+std::uint32_t X11Workspace::frontWindow(XcbConnection& connection) {
+    const auto active = connection.activeWindow();
+    if (active == XCB_WINDOW_NONE)
+        return active;
+    if (connection.isUtilityWindowOf(active, ownPid_))
+        return lastOtherFront_.load();
+    lastOtherFront_.store(active);
+    return active;
+}
+
 std::optional<RunningApplication> X11Workspace::frontmostApplication() {
     auto connection = queryConnection();
     if (!connection)
         return std::nullopt;
-    const auto window = connection->activeWindow();
+    const auto window = frontWindow(*connection);
     if (window == XCB_WINDOW_NONE)
         return std::nullopt;
     // A window that vanished between the two reads gives empty clues: nothing is in front.
@@ -100,8 +111,8 @@ std::optional<std::string> X11Workspace::focusedWindowTitle(std::int64_t pid) {
     auto connection = queryConnection();
     if (!connection || pid <= 0)
         return std::nullopt;
-    // The active window when it is this process's; else the process's topmost window.
-    const auto active = connection->activeWindow();
+    // The front window when it is this process's; else the process's topmost window.
+    const auto active = frontWindow(*connection);
     if (active != XCB_WINDOW_NONE) {
         std::int64_t activePid = 0;
         auto title = connection->title(active, &activePid);
@@ -124,7 +135,7 @@ std::optional<std::string> X11Workspace::frontWindowTitle(const std::string& bun
     if (!connection)
         return std::nullopt;
     auto windows = connection->clientsTopFirst();
-    const auto active = connection->activeWindow();
+    const auto active = frontWindow(*connection);
     if (auto it = std::find(windows.begin(), windows.end(), active); it != windows.end()) {
         std::rotate(windows.begin(), it, it + 1);
     }
@@ -161,7 +172,7 @@ void X11Workspace::promptForWindowAccess() {
 }
 
 std::optional<X11Workspace::ActiveKey> X11Workspace::activeKey(XcbConnection& connection) {
-    const auto window = connection.activeWindow();
+    const auto window = frontWindow(connection);
     if (window == XCB_WINDOW_NONE || connection.broken())
         return std::nullopt;
     const auto clues = connection.identityClues({window});

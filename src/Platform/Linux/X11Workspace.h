@@ -4,7 +4,9 @@
 // and both connections are re-established, at most once a second, when it is back.
 #pragma once
 
+#include <atomic>
 #include <chrono>
+#include <cstdint>
 #include <memory>
 #include <mutex>
 #include <thread>
@@ -63,6 +65,9 @@ private:
     };
 
     std::shared_ptr<XcbConnection> queryConnection();
+    // The active window, except that this process's own utility windows (the tray popover) leave
+    // the window that was active before them in front: glancing at the popover is not using Larkspan.
+    std::uint32_t frontWindow(XcbConnection& connection);
     void watchActivation();
     // Runs one connection's event loop until it breaks (false) or the workspace stops (true).
     bool pumpEvents(XcbConnection& connection, std::optional<ActiveKey>& last);
@@ -80,6 +85,9 @@ private:
     std::shared_ptr<XcbConnection> query_;
     std::chrono::steady_clock::time_point lastConnectAttempt_;
     bool attemptedConnect_ = false;
+
+    const std::int64_t ownPid_;
+    std::atomic<std::uint32_t> lastOtherFront_{0};  // the last front window not our own utility window
 
     int wakePipe_[2] = {-1, -1};  // written once to stop the event thread
     std::thread watcher_;

@@ -99,10 +99,17 @@ int XcbConnection::fileDescriptor() const {
 }
 
 bool XcbConnection::internAtoms() {
-    static constexpr const char* names[kAtomCount] = {
-        "_NET_ACTIVE_WINDOW", "_NET_CLIENT_LIST",    "_NET_CLIENT_LIST_STACKING",
-        "_NET_WM_PID",        "_NET_WM_NAME",        "UTF8_STRING",
-        "COMPOUND_TEXT",      "_GTK_APPLICATION_ID", "_KDE_NET_WM_DESKTOP_FILE"};
+    static constexpr const char* names[kAtomCount] = {"_NET_ACTIVE_WINDOW",
+                                                      "_NET_CLIENT_LIST",
+                                                      "_NET_CLIENT_LIST_STACKING",
+                                                      "_NET_WM_PID",
+                                                      "_NET_WM_NAME",
+                                                      "UTF8_STRING",
+                                                      "COMPOUND_TEXT",
+                                                      "_GTK_APPLICATION_ID",
+                                                      "_KDE_NET_WM_DESKTOP_FILE",
+                                                      "_NET_WM_WINDOW_TYPE",
+                                                      "_NET_WM_WINDOW_TYPE_UTILITY"};
     std::array<xcb_intern_atom_cookie_t, kAtomCount> cookies{};
     for (int i = 0; i < kAtomCount; ++i) {
         cookies[i] =
@@ -137,6 +144,14 @@ xcb_window_t XcbConnection::activeWindow() {
     auto reply = takeReply(connection_,
                            requestProperty(connection_, root_, atoms_[kActiveWindow], XCB_ATOM_WINDOW, 1));
     return firstWord(reply).value_or(XCB_WINDOW_NONE);
+}
+
+bool XcbConnection::isUtilityWindowOf(xcb_window_t window, std::int64_t pid) {
+    auto wmPid = requestProperty(connection_, window, atoms_[kWmPid], XCB_ATOM_CARDINAL, 1);
+    auto type = requestProperty(connection_, window, atoms_[kWmWindowType], XCB_ATOM_ATOM, 1);
+    const auto pidReply = takeReply(connection_, wmPid);
+    const auto typeReply = takeReply(connection_, type);
+    return firstWord(pidReply) == pid && firstWord(typeReply) == atoms_[kWmWindowTypeUtility];
 }
 
 std::vector<xcb_window_t> XcbConnection::windowList(xcb_atom_t property) {

@@ -37,6 +37,8 @@ public:
 
     // _NET_ACTIVE_WINDOW; XCB_WINDOW_NONE when nothing is focused or it cannot be read.
     xcb_window_t activeWindow();
+    // Whether `window` is a utility window (_NET_WM_WINDOW_TYPE_UTILITY) of process `pid`.
+    bool isUtilityWindowOf(xcb_window_t window, std::int64_t pid);
     // Managed windows, topmost first (_NET_CLIENT_LIST_STACKING, else _NET_CLIENT_LIST).
     std::vector<xcb_window_t> clientsTopFirst();
 
@@ -59,6 +61,8 @@ private:
         kCompoundText,
         kGtkApplicationID,
         kKdeDesktopFile,
+        kWmWindowType,
+        kWmWindowTypeUtility,
         kAtomCount
     };
 

@@ -63,6 +63,10 @@ std::uint32_t TestWindows::create(const Properties& properties) {
               static_cast<std::uint32_t>(properties.gtkApplicationID.size()),
               properties.gtkApplicationID.data());
     }
+    if (properties.utility) {
+        const xcb_atom_t utility = k.atom("_NET_WM_WINDOW_TYPE_UTILITY");
+        k.set(w, k.atom("_NET_WM_WINDOW_TYPE"), XCB_ATOM_ATOM, 32, 1, &utility);
+    }
     if (properties.transientFor)
         k.set(w, XCB_ATOM_WM_TRANSIENT_FOR, XCB_ATOM_WINDOW, 32, 1, &properties.transientFor);
     xcb_map_window(k.c, w);

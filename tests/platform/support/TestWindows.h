@@ -16,6 +16,7 @@ public:
         std::string title{};
         std::string gtkApplicationID{};  // _GTK_APPLICATION_ID when not empty
         std::uint32_t transientFor = 0;  // WM_TRANSIENT_FOR when not 0
+        bool utility = false;            // _NET_WM_WINDOW_TYPE_UTILITY, as Qt gives a tool window
     };
 
     // Connects to `display`; `connected()` tells whether that worked.
