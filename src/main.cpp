@@ -12,12 +12,12 @@
 #include "App/ui/SingleInstance.h"
 #include "App/ui/TerminationSignals.h"
 #include "Data/Database.h"
-#include "Platform/Linux/AllDesktops.h"
 #include "Platform/Linux/AppIdentity.h"
 #include "Platform/Linux/CanberraSoundPlayer.h"
 #include "Platform/Linux/DesktopEntries.h"
 #include "Platform/Linux/LinuxScriptRunner.h"
 #include "Platform/Linux/SessionEnvironment.h"
+#include "Platform/Linux/X11WindowHints.h"
 #include "Platform/Linux/X11Workspace.h"
 #include "Platform/Qt/DBusNotifier.h"
 #include "Platform/Qt/QtMainQueue.h"
@@ -84,9 +84,10 @@ int main(int argc, char** argv) {
     presenter.setOpenDashboard([&delegate] { delegate->menuBarController()->menuOpenDashboard(); });
     presenter.openDashboardWithoutTray();
     if (const auto* x11 = app.nativeInterface<QNativeInterface::QX11Application>()) {
-        presenter.setShowOnAllDesktops([connection = x11->connection()](WId window) {
-            showOnAllDesktops(connection, static_cast<std::uint32_t>(window));
-        });
+        xcb_connection_t* connection = x11->connection();
+        presenter.setFloatingWindowHints(
+            {[connection](WId window) { showOnAllDesktops(connection, static_cast<std::uint32_t>(window)); },
+             [connection] { return compositingManagerRunning(connection); }});
     }
 
     TrayIcon& tray = presenter.tray();

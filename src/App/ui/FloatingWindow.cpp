@@ -2,6 +2,7 @@
 
 #include <QDebug>
 #include <QGuiApplication>
+#include <QPalette>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QScreen>
@@ -39,6 +40,14 @@ FloatingWindow::FloatingWindow(QQmlEngine& engine, const QString& typeName, cons
 }
 
 FloatingWindow::~FloatingWindow() = default;
+
+void FloatingWindow::setSquareCorners(bool square) {
+    if (square == squareCorners_)
+        return;
+    squareCorners_ = square;
+    setColor(square ? QGuiApplication::palette().color(QPalette::Window) : QColor(Qt::transparent));
+    emit squareCornersChanged();
+}
 
 QPoint FloatingWindow::bottomRightPosition(const QScreen* screen, QSize size, QPoint current) {
     if (!screen)

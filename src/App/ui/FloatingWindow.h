@@ -16,6 +16,9 @@ namespace larkspan {
 
 class FloatingWindow final : public QQuickWindow {
     Q_OBJECT
+    // True where nothing composes translucent windows: the window is then opaque, and the card drawn
+    // square to its edges instead of showing black corners.
+    Q_PROPERTY(bool squareCorners READ squareCorners NOTIFY squareCornersChanged)
 public:
     static constexpr QSize promptSize{340, 200};
     static constexpr int margin = 20;  // pixels from the screen's right and bottom edges
@@ -29,6 +32,9 @@ public:
 
     QQuickItem* view() const { return view_.get(); }
 
+    bool squareCorners() const { return squareCorners_; }
+    void setSquareCorners(bool square);
+
     // Places the window at the bottom right of the primary screen and shows it without activating it.
     void showAtBottomRight();
 
@@ -36,8 +42,12 @@ public:
     // when there is no screen.
     static QPoint bottomRightPosition(const QScreen* screen, QSize size, QPoint current = {});
 
+signals:
+    void squareCornersChanged();
+
 private:
     std::unique_ptr<QQuickItem> view_;
+    bool squareCorners_ = false;
 };
 
 }  // namespace larkspan

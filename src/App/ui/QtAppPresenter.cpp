@@ -78,9 +78,11 @@ void QtAppPresenter::showReturnFromIdlePopup(double idleDuration, IdleAnswer onR
 }
 
 void QtAppPresenter::present(FloatingWindow& window) {
-    if (showOnAllDesktops_) {
+    if (floatingHints_.translucencyAvailable)
+        window.setSquareCorners(!floatingHints_.translucencyAvailable());
+    if (floatingHints_.showOnAllDesktops) {
         window.create();
-        showOnAllDesktops_(window.winId());
+        floatingHints_.showOnAllDesktops(window.winId());
     }
     window.showAtBottomRight();
 }

@@ -48,9 +48,14 @@ public:
     void togglePopover();
     // What the popover's "Open Dashboard" does after closing the popover.
     void setOpenDashboard(std::function<void()> action) { openDashboard_ = std::move(action); }
-    // How the desktop is asked to show a floating prompt's created, still hidden window on every
-    // virtual desktop; nothing is asked when unset.
-    void setShowOnAllDesktops(std::function<void(WId)> action) { showOnAllDesktops_ = std::move(action); }
+    // What the desktop adds to the floating prompts; a part left unset is skipped.
+    struct FloatingWindowHints {
+        // Asks for a created, still hidden window to be shown on every virtual desktop.
+        std::function<void(WId)> showOnAllDesktops;
+        // Whether translucent windows are composed; without it, the cards are drawn square.
+        std::function<bool()> translucencyAvailable;
+    };
+    void setFloatingWindowHints(FloatingWindowHints hints) { floatingHints_ = std::move(hints); }
 
     // The floating prompts' windows as last shown; null before the first. Closing only hides them.
     FloatingWindow* approvalWindow() const { return approvalWindow_.get(); }
@@ -67,7 +72,7 @@ private:
     std::unique_ptr<DashboardWindow> dashboard_;  // made at the first request, then reused
     SystemClock clock_;
     std::function<void()> openDashboard_;
-    std::function<void(WId)> showOnAllDesktops_;
+    FloatingWindowHints floatingHints_;
     // Made by attach; the summary refreshes from then on, also while the popover is closed.
     std::unique_ptr<QuickSummaryController> quickSummary_;
     std::unique_ptr<QuickSummaryPopover> popover_;

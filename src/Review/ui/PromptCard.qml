@@ -2,10 +2,11 @@ import QtQuick
 import Larkspan
 
 // The rounded card both floating prompts are drawn on: the window's colour, a thin border, corners of
-// radius 16. Its window is transparent, so the corners show what lies behind. Dragging the card's
+// radius 16. Its window is transparent, so the corners show what lies behind; where the desktop cannot
+// show through (no compositing), the window says so and the corners are square. Dragging the card's
 // background moves the window, as the window has no frame to drag.
 Rectangle {
-    radius: 16
+    radius: Window.window && Window.window.squareCorners ? 0 : 16
     color: palette.window
     border.width: 1
     border.color: Qt.rgba(palette.windowText.r, palette.windowText.g, palette.windowText.b, 0.18)
