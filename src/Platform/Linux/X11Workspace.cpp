@@ -69,7 +69,8 @@ std::shared_ptr<XcbConnection> X11Workspace::queryConnection() {
 
 std::uint32_t X11Workspace::frontWindow(XcbConnection& connection) {
     const auto active = connection.activeWindow();
-    if (active == XCB_WINDOW_NONE)
+    // The window seen last is already known not to be ours: no second look at its properties.
+    if (active == XCB_WINDOW_NONE || active == lastOtherFront_.load())
         return active;
     if (connection.isUtilityWindowOf(active, ownPid_))
         return lastOtherFront_.load();
