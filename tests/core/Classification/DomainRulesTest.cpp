@@ -2,29 +2,19 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <optional>
 #include <string>
 
 #include "ClassificationPrinters.h"
+#include "TextCase.h"
 
 namespace larkspan {
 namespace {
 
 using std::nullopt;
+using test::lower;
+using test::upper;
 using Result = std::optional<ClassificationResult>;
-
-std::string upper(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](char c) { return c >= 'a' && c <= 'z' ? c - 32 : c; });
-    return text;
-}
-
-std::string lower(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? c + 32 : c; });
-    return text;
-}
 
 TEST(DomainRules, EachGroupGivesItsCategoryAndConfidence) {
     struct Expected {
