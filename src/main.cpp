@@ -9,8 +9,6 @@
 
 #include "App/AppDelegate.h"
 #include "App/ui/QtAppPresenter.h"
-#include "App/ui/SingleInstance.h"
-#include "App/ui/TerminationSignals.h"
 #include "Data/Database.h"
 #include "Platform/Linux/AppIdentity.h"
 #include "Platform/Linux/CanberraSoundPlayer.h"
@@ -23,6 +21,8 @@
 #include "Platform/Qt/QtMainQueue.h"
 #include "Platform/Qt/QtRepeatingTimer.h"
 #include "Platform/Qt/SettingsStore.h"
+#include "Platform/Qt/SingleInstance.h"
+#include "Platform/Qt/TerminationSignals.h"
 #include "Platform/SerialQueue.h"
 
 using namespace larkspan;
@@ -79,9 +79,9 @@ int main(int argc, char** argv) {
                                  *workspace, scripts, monitorQueue, presenter});
 
     // Launching draws the first title, so the tray icon never shows blank.
-    delegate->applicationDidFinishLaunching();
+    delegate->start();
     presenter.attach(database, *delegate->sessionManager(), *delegate->pomodoroTimer());
-    presenter.setOpenDashboard([&delegate] { delegate->menuBarController()->menuOpenDashboard(); });
+    presenter.setOpenDashboard([&delegate] { delegate->trayMenu()->menuOpenDashboard(); });
     presenter.openDashboardWithoutTray();
     if (const auto* x11 = app.nativeInterface<QNativeInterface::QX11Application>()) {
         xcb_connection_t* connection = x11->connection();
@@ -92,9 +92,9 @@ int main(int argc, char** argv) {
 
     TrayIcon& tray = presenter.tray();
     QObject::connect(&tray, &TrayIcon::popoverToggleRequested, [&presenter] { presenter.togglePopover(); });
-    tray.setMenuItems([&delegate] { return delegate->menuBarController()->contextMenuItems(); });
+    tray.setMenuItems([&delegate] { return delegate->trayMenu()->contextMenuItems(); });
     QObject::connect(&tray, &TrayIcon::openDashboardRequested,
-                     [&delegate] { delegate->menuBarController()->menuOpenDashboard(); });
+                     [&delegate] { delegate->trayMenu()->menuOpenDashboard(); });
     QObject::connect(&tray, &TrayIcon::quitRequested, &app, &QApplication::quit);
     QObject::connect(&instance, &SingleInstance::activationRequested,
                      [&delegate] { delegate->openDashboard(); });
@@ -103,6 +103,6 @@ int main(int argc, char** argv) {
                      &QApplication::quit);
 
     const int status = QApplication::exec();
-    delegate->applicationWillTerminate();
+    delegate->stop();
     return status;
 }

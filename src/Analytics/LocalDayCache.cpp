@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "Data/LocalDay.h"
+#include "Platform/LocalDay.h"
 
 namespace larkspan::analytics {
 

@@ -42,7 +42,7 @@ AppDelegate::AppDelegate(Database& database, const AppEnvironment& environment)
                                                          env_.mainQueue, env_.timers, env_.notifications,
                                                          env_.monitorQueue)) {}
 
-void AppDelegate::applicationDidFinishLaunching() {
+void AppDelegate::start() {
     launchApp();
 }
 
@@ -57,8 +57,8 @@ void AppDelegate::launchApp() {
         if (auto self = weak.lock())
             self->onSessionComplete(mode, task);
     };
-    menuBarController_ = std::make_unique<MenuBarController>(
-        *sessionManager_, database_, *pomodoroTimer_, weak_from_this(), env_.presenter, env_.mainQueue);
+    trayMenu_ = std::make_unique<TrayMenu>(*sessionManager_, database_, *pomodoroTimer_, env_.presenter,
+                                           env_.mainQueue);
     requestAccessibilityPermission();
     startTracking();
     cancellables_.push_back(env_.notifications.observe(
@@ -68,7 +68,7 @@ void AppDelegate::launchApp() {
         }));
 }
 
-void AppDelegate::applicationWillTerminate() {
+void AppDelegate::stop() {
     activityMonitor_->stop();
 }
 

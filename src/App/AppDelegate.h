@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "App/AppPresenter.h"
-#include "App/MenuBarController.h"
+#include "App/TrayMenu.h"
 #include "Classification/CategoryEngine.h"
 #include "Data/Database.h"
 #include "Focus/PomodoroTimer.h"
@@ -53,19 +53,19 @@ inline constexpr const char* kLastAccessibilityPromptDateKey = "lastAccessibilit
 
 class AppDelegate : public std::enable_shared_from_this<AppDelegate> {
 public:
-    // Makes the engine and the monitor; nothing runs until applicationDidFinishLaunching.
+    // Makes the engine and the monitor; nothing runs until start.
     AppDelegate(Database& database, const AppEnvironment& environment);
     AppDelegate(const AppDelegate&) = delete;
     AppDelegate& operator=(const AppDelegate&) = delete;
 
     // A tray application needs no activation policy and freedesktop notifications no authorisation,
     // so launching is all there is to do.
-    void applicationDidFinishLaunching();
+    void start();
     // Builds and starts everything, once.
     void launchApp();
     // Stops sampling before the process ends. Nothing is written: the open session keeps the end its
     // last heartbeat stored.
-    void applicationWillTerminate();
+    void stop();
 
     void openDashboard();
 
@@ -79,7 +79,7 @@ public:
 
     SessionManager* sessionManager() const { return sessionManager_.get(); }
     PomodoroTimer* pomodoroTimer() const { return pomodoroTimer_.get(); }
-    MenuBarController* menuBarController() const { return menuBarController_.get(); }
+    TrayMenu* trayMenu() const { return trayMenu_.get(); }
     ActivityMonitor& activityMonitor() const { return *activityMonitor_; }
 
     static constexpr double minPopupInterval = 600.0;
@@ -97,7 +97,7 @@ private:
     std::shared_ptr<ActivityMonitor> activityMonitor_;
     std::shared_ptr<SessionManager> sessionManager_;
     std::unique_ptr<PomodoroTimer> pomodoroTimer_;
-    std::unique_ptr<MenuBarController> menuBarController_;
+    std::unique_ptr<TrayMenu> trayMenu_;
     std::vector<Subscription> cancellables_;
     Date lastPopupTime_ = -std::numeric_limits<double>::infinity();  // the distant past
 };

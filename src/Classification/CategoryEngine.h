@@ -9,6 +9,8 @@
 #include <unordered_set>
 #include <vector>
 
+#include "Classification/LearnedRule.h"
+
 namespace larkspan {
 
 // A result below this confidence makes the activity one the user is asked about.
@@ -20,14 +22,6 @@ struct ClassificationResult {
 
     bool needsApproval() const { return confidence < kApprovalThreshold; }
     bool operator==(const ClassificationResult&) const = default;
-};
-
-// One row of `learned_rules`. Types: "domain", "bundle_id", "app_name", "url", "title".
-struct LearnedRule {
-    std::string ruleType;
-    std::string ruleKey;
-    std::int64_t categoryID = 0;
-    bool operator==(const LearnedRule&) const = default;
 };
 
 class CategoryEngine {

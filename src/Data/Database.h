@@ -28,7 +28,7 @@
 #include <vector>
 
 #include "Classification/Category.h"
-#include "Classification/CategoryEngine.h"
+#include "Classification/LearnedRule.h"
 #include "Data/Statement.h"
 #include "Platform/Clock.h"
 #include "Platform/SerialQueue.h"

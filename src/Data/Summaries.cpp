@@ -4,8 +4,8 @@
 #include <unordered_map>
 
 #include "Data/Database.h"
-#include "Data/LocalDay.h"
 #include "Data/SqlText.h"
+#include "Platform/LocalDay.h"
 
 namespace larkspan {
 

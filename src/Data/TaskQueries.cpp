@@ -2,8 +2,8 @@
 // they were made; "today" is the day of the instant the caller passes in, taken afresh per call, so
 // each day starts with an empty list while earlier days keep their rows.
 #include "Data/Database.h"
-#include "Data/LocalDay.h"
 #include "Data/SqlText.h"
+#include "Platform/LocalDay.h"
 
 namespace larkspan {
 

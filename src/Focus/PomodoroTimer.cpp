@@ -6,7 +6,7 @@
 #include <limits>
 #include <utility>
 
-#include "Data/LocalDay.h"
+#include "Platform/LocalDay.h"
 
 namespace larkspan {
 

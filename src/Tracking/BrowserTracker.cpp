@@ -2,7 +2,7 @@
 
 #include <uriparser/Uri.h>
 
-#include "Tracking/BrowserScripts.h"
+#include "Platform/TabScripts.h"
 
 namespace larkspan {
 
@@ -68,7 +68,7 @@ std::optional<TabInfo> BrowserTracker::getActiveTab(const std::string& bundleID)
     return fetched;
 }
 
-std::string BrowserTracker::appleScript(const std::string& bundleID) {
+std::string BrowserTracker::tabScript(const std::string& bundleID) {
     if (bundleID == "com.apple.Safari")
         return std::string(kSafariTabScript);
     if (bundleID == "org.mozilla.firefox")
@@ -97,7 +97,7 @@ std::shared_ptr<CompiledScript> BrowserTracker::compiledScript(const std::string
 }
 
 std::optional<TabInfo> BrowserTracker::fetchTabInfo(const std::string& bundleID) {
-    const auto script = compiledScript(appleScript(bundleID));
+    const auto script = compiledScript(tabScript(bundleID));
     if (!script) {
         return std::nullopt;
     }

@@ -45,7 +45,7 @@ public:
     // The script text that asks `bundleID` for its tab. Browsers without a script of their own get
     // the Chromium-family text, named after the first running application with that identifier, or
     // "Google Chrome" when there is none or it has no name.
-    std::string appleScript(const std::string& bundleID);
+    std::string tabScript(const std::string& bundleID);
 
     static constexpr double cacheLifetime = 3.0;  // seconds
 

@@ -4,8 +4,7 @@
 
 #include <map>
 
-#include "Platform/Linux/BrowserScript.h"
-#include "Tracking/BrowserScripts.h"
+#include "Platform/TabScripts.h"
 
 namespace larkspan {
 namespace {
@@ -25,20 +24,20 @@ public:
 };
 
 TEST(LinuxScriptRunner, RecognisesExactlyTheBrowserScripts) {
-    using Kind = BrowserScript::Kind;
-    EXPECT_EQ(recogniseBrowserScript(kFirefoxScript), (BrowserScript{Kind::firefox, "Firefox"}));
-    EXPECT_EQ(recogniseBrowserScript(kSafariScript), (BrowserScript{Kind::safari, "Safari"}));
-    EXPECT_EQ(recogniseBrowserScript(chromiumFamilyTabScript("Google Chrome")),
-              (BrowserScript{Kind::chromiumFamily, "Google Chrome"}));
-    EXPECT_EQ(recogniseBrowserScript(chromiumFamilyTabScript("Brave Browser")),
-              (BrowserScript{Kind::chromiumFamily, "Brave Browser"}));
+    using Kind = TabScript::Kind;
+    EXPECT_EQ(recogniseTabScript(kFirefoxScript), (TabScript{Kind::firefox, "Firefox"}));
+    EXPECT_EQ(recogniseTabScript(kSafariScript), (TabScript{Kind::safari, "Safari"}));
+    EXPECT_EQ(recogniseTabScript(chromiumFamilyTabScript("Google Chrome")),
+              (TabScript{Kind::chromiumFamily, "Google Chrome"}));
+    EXPECT_EQ(recogniseTabScript(chromiumFamilyTabScript("Brave Browser")),
+              (TabScript{Kind::chromiumFamily, "Brave Browser"}));
     // A trailing line feed, a tab for spaces, two different names, no name, text around: not ours.
     for (const auto& text :
          {kFirefoxScript + "\n", kSafariScript.substr(0, kSafariScript.size() - 1),
           std::string(kFirefoxScript).replace(kFirefoxScript.find("    "), 4, "\t"),
           chromiumFamilyTabScript("Edge").replace(chromiumFamilyTabScript("Edge").rfind("Edge"), 4, "Chrome"),
           std::string("tell application \""), std::string(), "-- x\n" + kSafariScript}) {
-        EXPECT_FALSE(recogniseBrowserScript(text)) << text;
+        EXPECT_FALSE(recogniseTabScript(text)) << text;
     }
 }
 

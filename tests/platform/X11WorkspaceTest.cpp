@@ -12,10 +12,10 @@
 
 #include "ManualMainQueue.h"
 #include "Platform/Linux/LinuxScriptRunner.h"
+#include "Platform/TabScripts.h"
 #include "RecordingNotifier.h"
 #include "TempDir.h"
 #include "TestWindows.h"
-#include "Tracking/BrowserScripts.h"
 #include "XvfbDisplay.h"
 
 namespace larkspan {

@@ -4,7 +4,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "App/ui/SingleInstance.h"
+#include "Platform/Qt/SingleInstance.h"
 
 using namespace larkspan;
 

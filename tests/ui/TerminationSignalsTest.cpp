@@ -5,7 +5,7 @@
 
 #include <signal.h>
 
-#include "App/ui/TerminationSignals.h"
+#include "Platform/Qt/TerminationSignals.h"
 
 using namespace larkspan;
 

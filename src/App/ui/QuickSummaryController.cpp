@@ -10,7 +10,7 @@
 #include <algorithm>
 
 #include "App/QuickSummary.h"
-#include "Data/LocalDay.h"
+#include "Platform/LocalDay.h"
 
 namespace larkspan {
 

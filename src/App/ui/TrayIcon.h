@@ -12,8 +12,8 @@
 #include <functional>
 #include <vector>
 
-#include "App/MenuBarController.h"
 #include "App/StatusTitle.h"
+#include "App/TrayMenu.h"
 #include "App/ui/TrayIconPainter.h"
 
 namespace larkspan {

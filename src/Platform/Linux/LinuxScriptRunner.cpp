@@ -1,15 +1,15 @@
 // Browser scripts answered from the desktop.
 #include "Platform/Linux/LinuxScriptRunner.h"
 
-#include "Platform/Linux/BrowserScript.h"
+#include "Platform/TabScripts.h"
 
 namespace larkspan {
 namespace {
 
 class RecognisedScript final : public CompiledScript {
 public:
-    explicit RecognisedScript(BrowserScript script) : script(std::move(script)) {}
-    const BrowserScript script;
+    explicit RecognisedScript(TabScript script) : script(std::move(script)) {}
+    const TabScript script;
 };
 
 }  // namespace
@@ -18,7 +18,7 @@ LinuxScriptRunner::LinuxScriptRunner(std::shared_ptr<ApplicationWindows> windows
     : windows_(std::move(windows)) {}
 
 std::shared_ptr<CompiledScript> LinuxScriptRunner::compile(const std::string& source) {
-    auto script = recogniseBrowserScript(source);
+    auto script = recogniseTabScript(source);
     if (!script)
         return nullptr;
     return std::make_shared<RecognisedScript>(std::move(*script));
@@ -26,7 +26,7 @@ std::shared_ptr<CompiledScript> LinuxScriptRunner::compile(const std::string& so
 
 std::optional<std::string> LinuxScriptRunner::execute(const CompiledScript& compiled) {
     const auto* recognised = dynamic_cast<const RecognisedScript*>(&compiled);
-    if (!recognised || recognised->script.kind != BrowserScript::Kind::firefox)
+    if (!recognised || recognised->script.kind != TabScript::Kind::firefox)
         return std::nullopt;
     const auto title = windows_ ? windows_->frontWindowTitle(kFirefoxIdentifier) : std::nullopt;
     return "firefox://active|||" + title.value_or("Firefox");

@@ -45,7 +45,7 @@ struct AppDelegateTest : ::testing::Test {
         app = std::make_shared<AppDelegate>(
             database, AppEnvironment{clock, mainQueue, timers, defaults, sounds, notifier, notifications,
                                      workspace, scripts, monitorQueue, presenter});
-        app->applicationDidFinishLaunching();
+        app->start();
         settle();
         return app;
     }
@@ -65,7 +65,7 @@ struct AppDelegateTest : ::testing::Test {
 
     ~AppDelegateTest() override {
         if (app)
-            app->applicationWillTerminate();
+            app->stop();
     }
 };
 
@@ -103,7 +103,7 @@ TEST_F(AppDelegateTest, NoPendingRecordSpendsNothing) {
 
 TEST_F(AppDelegateTest, TheMenusDashboardEntryClosesThePopoverThenOpensTheDashboard) {
     launch();
-    app->menuBarController()->menuOpenDashboard();
+    app->trayMenu()->menuOpenDashboard();
     EXPECT_EQ(presenter.calls, (std::vector<std::string>{"closePopover", "openDashboard"}));
 }
 
@@ -169,7 +169,7 @@ TEST_F(AppDelegateTest, AnApprovalAnswerResolvesAndAnAbsentAnswerLeavesTheActivi
 
     // A callback that outlives the delegate does nothing.
     auto answer = presenter.approvals.back().onResolve;
-    app->applicationWillTerminate();
+    app->stop();
     app.reset();
     presenter.calls.clear();
     answer(category_id::communication);
@@ -199,7 +199,8 @@ TEST_F(AppDelegateTest, ThePopupOffersTheUsersSixMostUsedCategoriesFilledUpWithD
     approved(4, 3);
     approved(gardening, 2);
     app->showApprovalPopup(row(pending));
-    EXPECT_EQ(presenter.approvals.back().topCategoryIDs, (std::vector<std::int64_t>{4, gardening, 1, 6, 10, 16}));
+    EXPECT_EQ(presenter.approvals.back().topCategoryIDs,
+              (std::vector<std::int64_t>{4, gardening, 1, 6, 10, 16}));
 
     for (std::int64_t id : {2, 3, 5, 7, 8, 9})
         approved(id, 1);
@@ -265,7 +266,7 @@ TEST_F(AppDelegateTest, TheWindowAccessPromptShowsAtMostOnceInSevenDays) {
         workspace.setCanReadWindows(c.granted);
         const int promptsBefore = workspace.windowAccessPrompts();
         launch();
-        app->applicationWillTerminate();
+        app->stop();
         EXPECT_EQ(workspace.windowAccessPrompts() - promptsBefore, c.prompts ? 1 : 0);
         const auto stored = defaults.real(kLastAccessibilityPromptDateKey);
         EXPECT_EQ(stored, c.prompts ? std::optional<double>(kStart) : c.stored);

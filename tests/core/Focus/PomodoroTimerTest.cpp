@@ -10,11 +10,11 @@
 #include <utility>
 #include <vector>
 
-#include "Data/LocalDay.h"
 #include "LocalInstant.h"
 #include "ManualClock.h"
 #include "ManualTimerHub.h"
 #include "MemoryKeyValueStore.h"
+#include "Platform/LocalDay.h"
 #include "RecordingSoundPlayer.h"
 #include "ScopedTimeZone.h"
 

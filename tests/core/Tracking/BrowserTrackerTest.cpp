@@ -21,7 +21,7 @@ struct BrowserTrackerTest : ::testing::Test {
 };
 
 TEST_F(BrowserTrackerTest, ScriptTextsAreExactAndTheGenericOneIsNamedAfterTheRunningApplication) {
-    EXPECT_EQ(tracker.appleScript("com.apple.Safari"), R"(tell application "Safari"
+    EXPECT_EQ(tracker.tabScript("com.apple.Safari"), R"(tell application "Safari"
     try
         set u to URL of current tab of front window
         set t to name of current tab of front window
@@ -30,7 +30,7 @@ TEST_F(BrowserTrackerTest, ScriptTextsAreExactAndTheGenericOneIsNamedAfterTheRun
         return "about:blank|||Safari"
     end try
 end tell)");
-    EXPECT_EQ(tracker.appleScript("org.mozilla.firefox"), R"(tell application "Firefox"
+    EXPECT_EQ(tracker.tabScript("org.mozilla.firefox"), R"(tell application "Firefox"
     try
         set t to name of front window
         return "firefox://active|||" & t
@@ -38,7 +38,7 @@ end tell)");
         return "firefox://active|||Firefox"
     end try
 end tell)");
-    EXPECT_EQ(tracker.appleScript("company.thebrowser.Browser"), R"(tell application "Arc"
+    EXPECT_EQ(tracker.tabScript("company.thebrowser.Browser"), R"(tell application "Arc"
     try
         tell front window
             set u to URL of active tab
@@ -49,7 +49,7 @@ end tell)");
         return "about:blank|||Arc"
     end try
 end tell)");
-    EXPECT_EQ(tracker.appleScript("com.kagi.kagimacOS"), R"(tell application "Orion"
+    EXPECT_EQ(tracker.tabScript("com.kagi.kagimacOS"), R"(tell application "Orion"
     try
         set u to URL of current tab of front window
         set t to name of current tab of front window
@@ -69,16 +69,16 @@ end tell)");
     end try
 end tell)";
     workspace.setRunning({{"org.gnome.Nautilus", "Files", 7}, {"com.brave.Browser", "Brave Browser", 8}});
-    EXPECT_EQ(tracker.appleScript("com.brave.Browser"), brave);
+    EXPECT_EQ(tracker.tabScript("com.brave.Browser"), brave);
 
     // Not running, or running without a name: the family's default name.
     std::string chrome = brave;
     for (auto at = chrome.find("Brave Browser"); at != std::string::npos; at = chrome.find("Brave Browser")) {
         chrome.replace(at, 13, "Google Chrome");
     }
-    EXPECT_EQ(tracker.appleScript("com.vivaldi.Vivaldi"), chrome);
+    EXPECT_EQ(tracker.tabScript("com.vivaldi.Vivaldi"), chrome);
     workspace.setRunning({{"com.vivaldi.Vivaldi", std::nullopt, 9}});
-    EXPECT_EQ(tracker.appleScript("com.vivaldi.Vivaldi"), chrome);
+    EXPECT_EQ(tracker.tabScript("com.vivaldi.Vivaldi"), chrome);
 }
 
 TEST_F(BrowserTrackerTest, TheTwelveBrowsersAreExactIdentifiers) {

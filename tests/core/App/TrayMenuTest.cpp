@@ -1,6 +1,6 @@
 // The tray's controller: which values redraw the title, through the main queue, and what the menu
 // offers. The title's own rules are tested with buildStatusTitle.
-#include "App/MenuBarController.h"
+#include "App/TrayMenu.h"
 
 #include <gtest/gtest.h>
 
@@ -18,7 +18,7 @@ namespace {
 
 using namespace test;
 
-struct MenuBarControllerTest : ::testing::Test {
+struct TrayMenuTest : ::testing::Test {
     TempDir dir;
     Database database{dir.path() / "tracker.db"};
     CategoryEngine engine;
@@ -35,9 +35,9 @@ struct MenuBarControllerTest : ::testing::Test {
     std::string lastTitle() const { return presenter.titles.back().plainText(); }
 };
 
-TEST_F(MenuBarControllerTest, DrawsStartingAtOnceThenRedrawsForEachValueThroughTheMainQueue) {
+TEST_F(TrayMenuTest, DrawsStartingAtOnceThenRedrawsForEachValueThroughTheMainQueue) {
     mainQueue.drain();
-    MenuBarController controller(*sessions, database, timer, {}, presenter, mainQueue);
+    TrayMenu controller(*sessions, database, timer, presenter, mainQueue);
     ASSERT_EQ(presenter.titles.size(), 1u);
     EXPECT_EQ(lastTitle(), "\u23F1 Starting\u2026");
 
@@ -62,8 +62,8 @@ TEST_F(MenuBarControllerTest, DrawsStartingAtOnceThenRedrawsForEachValueThroughT
     EXPECT_EQ(lastTitle(), "\U0001F4BB Coding  \U0001F345\u23F8 25:00  3 \u25CF");
 }
 
-TEST_F(MenuBarControllerTest, TheMenuOffersReviewOnlyWhileActivitiesArePending) {
-    MenuBarController controller(*sessions, database, timer, {}, presenter, mainQueue);
+TEST_F(TrayMenuTest, TheMenuOffersReviewOnlyWhileActivitiesArePending) {
+    TrayMenu controller(*sessions, database, timer, presenter, mainQueue);
     const MenuItem dashboard{"Open Dashboard", "d", MenuItem::Action::openDashboard};
     const MenuItem separator{"", "", MenuItem::Action::separator};
     const MenuItem quit{"Quit Larkspan", "q", MenuItem::Action::quit};
@@ -76,12 +76,12 @@ TEST_F(MenuBarControllerTest, TheMenuOffersReviewOnlyWhileActivitiesArePending) 
     EXPECT_EQ(controller.contextMenuItems(), (std::vector<MenuItem>{dashboard, review, separator, quit}));
 }
 
-TEST_F(MenuBarControllerTest, WorkPostedForAControllerThatIsGoneDoesNothing) {
+TEST_F(TrayMenuTest, WorkPostedForAControllerThatIsGoneDoesNothing) {
     {
-        MenuBarController controller(*sessions, database, timer, {}, presenter, mainQueue);
-        // Without a delegate the dashboard entry only closes the popover.
+        TrayMenu controller(*sessions, database, timer, presenter, mainQueue);
+        // The dashboard entry closes the popover before it opens the dashboard.
         controller.menuOpenDashboard();
-        EXPECT_EQ(presenter.calls, (std::vector<std::string>{"closePopover"}));
+        EXPECT_EQ(presenter.calls, (std::vector<std::string>{"closePopover", "openDashboard"}));
     }
     const auto drawn = presenter.titles.size();
     mainQueue.drain();

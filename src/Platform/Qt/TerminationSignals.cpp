@@ -1,4 +1,4 @@
-#include "App/ui/TerminationSignals.h"
+#include "Platform/Qt/TerminationSignals.h"
 
 #include <fcntl.h>
 #include <signal.h>

@@ -1,4 +1,4 @@
-#include "Data/LocalDay.h"
+#include "Platform/LocalDay.h"
 
 #include <cmath>
 #include <cstdio>

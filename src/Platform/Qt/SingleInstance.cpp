@@ -1,4 +1,4 @@
-#include "App/ui/SingleInstance.h"
+#include "Platform/Qt/SingleInstance.h"
 
 #include <QDir>
 #include <QLocalSocket>

@@ -1,10 +1,14 @@
 // The scripts that ask a browser for the address and title of its active tab. Each answers
 // "address|||title", and on any failure inside the browser (no window) a fixed answer of the same
 // shape. The texts are exact, byte for byte: lines joined by a single line feed, no final line feed,
-// four-space indentation. The tab tracker sends them and the desktop's script runner recognises
-// them by this very text, so both sides read them from here.
+// four-space indentation. The tab tracker sends them and the script runner recognises them by this
+// very text, so both sides read them from here.
+//
+// On this desktop the texts are matched, never run: no scripting host executes them, and the runner
+// answers each from whatever stands in for its target browser.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -59,5 +63,16 @@ inline constexpr std::string_view kOrionTabScript =
 // The script of the Chromium family, addressed to the application called `applicationName`, which
 // also stands as the title of its error answer. Any name is taken as it is.
 std::string chromiumFamilyTabScript(std::string_view applicationName);
+
+struct TabScript {
+    enum class Kind { safari, firefox, arc, orion, chromiumFamily };
+    Kind kind;
+    std::string application;  // the name after `tell application`
+    bool operator==(const TabScript&) const = default;
+};
+
+// Which of the five scripts `source` is, byte for byte; the Chromium-family text may name any
+// application. Nothing for any other text.
+std::optional<TabScript> recogniseTabScript(std::string_view source);
 
 }  // namespace larkspan

@@ -19,8 +19,6 @@
 
 namespace larkspan {
 
-class AppDelegate;
-
 struct MenuItem {
     enum class Action { openDashboard, quit, separator };
     std::string title;          // empty for the separator
@@ -29,14 +27,14 @@ struct MenuItem {
     bool operator==(const MenuItem&) const = default;
 };
 
-class MenuBarController {
+class TrayMenu {
 public:
     // Draws "⏱ Starting…" at once, then subscribes to the four values that change the title.
-    MenuBarController(SessionManager& sessionManager, Database& database, PomodoroTimer& pomodoroTimer,
-                      std::weak_ptr<AppDelegate> delegate, AppPresenter& presenter, MainQueue& mainQueue);
+    TrayMenu(SessionManager& sessionManager, Database& database, PomodoroTimer& pomodoroTimer,
+             AppPresenter& presenter, MainQueue& mainQueue);
 
-    MenuBarController(const MenuBarController&) = delete;
-    MenuBarController& operator=(const MenuBarController&) = delete;
+    TrayMenu(const TrayMenu&) = delete;
+    TrayMenu& operator=(const TrayMenu&) = delete;
 
     // Rebuilds the whole title, reading the categories from the store each time.
     void updateButton(const std::optional<ActivityRecord>& session, std::int64_t pendingCount);
@@ -53,7 +51,6 @@ private:
     SessionManager& sessionManager_;
     Database& database_;
     PomodoroTimer& pomodoroTimer_;
-    std::weak_ptr<AppDelegate> delegate_;
     AppPresenter& presenter_;
     MainQueue& mainQueue_;
     std::shared_ptr<char> lifetime_ = std::make_shared<char>();  // posted work checks it is alive

@@ -1,55 +1,49 @@
-#include "App/MenuBarController.h"
+#include "App/TrayMenu.h"
 
 #include <map>
 
-#include "App/AppDelegate.h"
-
 namespace larkspan {
 
-MenuBarController::MenuBarController(SessionManager& sessionManager, Database& database,
-                                     PomodoroTimer& pomodoroTimer, std::weak_ptr<AppDelegate> delegate,
-                                     AppPresenter& presenter, MainQueue& mainQueue)
+TrayMenu::TrayMenu(SessionManager& sessionManager, Database& database, PomodoroTimer& pomodoroTimer,
+                   AppPresenter& presenter, MainQueue& mainQueue)
     : sessionManager_(sessionManager),
       database_(database),
       pomodoroTimer_(pomodoroTimer),
-      delegate_(std::move(delegate)),
       presenter_(presenter),
       mainQueue_(mainQueue) {
     setup();
 }
 
-void MenuBarController::setup() {
+void TrayMenu::setup() {
     updateButton(std::nullopt, 0);
     // Each value arrives through the main queue, behind whatever the main thread is doing; the
     // posted work does nothing once the controller is gone.
-    auto later = [this](std::function<void(MenuBarController&)> work) {
+    auto later = [this](std::function<void(TrayMenu&)> work) {
         mainQueue_.post([alive = std::weak_ptr<char>(lifetime_), this, work = std::move(work)] {
             if (alive.lock())
                 work(*this);
         });
     };
     cancellables_.push_back(sessionManager_.currentSession.subscribe([later](const auto& session) {
-        later([session](MenuBarController& self) {
+        later([session](TrayMenu& self) {
             self.updateButton(session, self.sessionManager_.pendingApprovalCount.get());
         });
     }));
     cancellables_.push_back(sessionManager_.pendingApprovalCount.subscribe([later](std::int64_t count) {
-        later([count](MenuBarController& self) {
-            self.updateButton(self.sessionManager_.currentSession.get(), count);
-        });
+        later(
+            [count](TrayMenu& self) { self.updateButton(self.sessionManager_.currentSession.get(), count); });
     }));
     cancellables_.push_back(
-        pomodoroTimer_.secondsLeft.subscribe([later](std::int64_t) { later(&MenuBarController::refresh); }));
-    cancellables_.push_back(pomodoroTimer_.runState.subscribe(
-        [later](PomodoroTimer::RunState) { later(&MenuBarController::refresh); }));
+        pomodoroTimer_.secondsLeft.subscribe([later](std::int64_t) { later(&TrayMenu::refresh); }));
+    cancellables_.push_back(
+        pomodoroTimer_.runState.subscribe([later](PomodoroTimer::RunState) { later(&TrayMenu::refresh); }));
 }
 
-void MenuBarController::refresh() {
+void TrayMenu::refresh() {
     updateButton(sessionManager_.currentSession.get(), sessionManager_.pendingApprovalCount.get());
 }
 
-void MenuBarController::updateButton(const std::optional<ActivityRecord>& session,
-                                     std::int64_t pendingCount) {
+void TrayMenu::updateButton(const std::optional<ActivityRecord>& session, std::int64_t pendingCount) {
     std::map<std::int64_t, Category> categories;
     for (auto& category : database_.fetchCategories())
         categories.emplace(category.id, std::move(category));
@@ -63,7 +57,7 @@ void MenuBarController::updateButton(const std::optional<ActivityRecord>& sessio
     presenter_.showStatusTitle(buildStatusTitle(session, pendingCount, categories, timer));
 }
 
-std::vector<MenuItem> MenuBarController::contextMenuItems() const {
+std::vector<MenuItem> TrayMenu::contextMenuItems() const {
     std::vector<MenuItem> items{{"Open Dashboard", "d", MenuItem::Action::openDashboard}};
     const auto pending = sessionManager_.pendingApprovalCount.get();
     if (pending > 0)
@@ -74,10 +68,9 @@ std::vector<MenuItem> MenuBarController::contextMenuItems() const {
     return items;
 }
 
-void MenuBarController::menuOpenDashboard() {
+void TrayMenu::menuOpenDashboard() {
     presenter_.closePopover();
-    if (auto delegate = delegate_.lock())
-        delegate->openDashboard();
+    presenter_.openDashboard();
 }
 
 }  // namespace larkspan
