@@ -81,4 +81,6 @@ sleep 3
 check "the page of Firefox" "http://127.0.0.1:$plain_port/issues.html|127.0.0.1|larkspan/tracker: Issues|1" \
     "SELECT url, url_domain, window_title, count(*) FROM activities
      WHERE bundle_id = 'org.mozilla.firefox' AND url LIKE 'http://127.0.0.1%'"
+"$larkspan" --uninstall-browser-bridge >/dev/null || fail "--uninstall-browser-bridge failed"
+[ -z "$(find "$HOME/.mozilla" "$XDG_CONFIG_HOME" -name 'org.larkspan.browser_bridge.json')" ] || fail "manifests left"
 echo "PASS"

@@ -36,12 +36,6 @@ TEST(BridgeProtocol, FramesSurviveAnySplitAndOversizedOnesAreSkipped) {
         EXPECT_EQ(frames, c.frames) << c.what;
         EXPECT_EQ(reader.midFrame(), c.midFrame) << c.what;
     }
-    // Byte by byte.
-    FrameReader reader;
-    std::vector<Frame> frames;
-    for (char byte : two)
-        reader.feed(std::string_view(&byte, 1), frames);
-    EXPECT_EQ(frames, (std::vector<Frame>{{R"({"a":1})"}, {""}}));
 }
 
 TEST(BridgeProtocol, OnlyWellFormedTabsPass) {

@@ -16,30 +16,25 @@
 namespace larkspan {
 namespace {
 
-// A host's end of the socket.
-class Client {
-public:
-    explicit Client(const std::string& path) {
-        sockaddr_un address{};
-        address.sun_family = AF_UNIX;
-        std::strncpy(address.sun_path, path.c_str(), sizeof address.sun_path - 1);
-        fd_ = ::socket(AF_UNIX, SOCK_STREAM, 0);
-        connected_ = ::connect(fd_, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
-    }
-    ~Client() { ::close(fd_); }
-    bool connected() const { return connected_; }
-    void send(const std::string& bytes) {
-        for (std::size_t sent = 0; sent < bytes.size();) {
-            const auto n = ::send(fd_, bytes.data() + sent, bytes.size() - sent, MSG_NOSIGNAL);
-            ASSERT_GT(n, 0);
-            sent += static_cast<std::size_t>(n);
-        }
-    }
+// A host's end of the socket; -1 when it cannot connect.
+int connectTo(const std::string& path) {
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    std::strncpy(address.sun_path, path.c_str(), sizeof address.sun_path - 1);
+    const int fd = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    if (::connect(fd, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0)
+        return fd;
+    ::close(fd);
+    return -1;
+}
 
-private:
-    int fd_ = -1;
-    bool connected_ = false;
-};
+void send(int fd, const std::string& bytes) {
+    for (std::size_t sent = 0; sent < bytes.size();) {
+        const auto n = ::send(fd, bytes.data() + sent, bytes.size() - sent, MSG_NOSIGNAL);
+        ASSERT_GT(n, 0);
+        sent += static_cast<std::size_t>(n);
+    }
+}
 
 std::string report(std::int64_t pid, const std::string& title) {
     return encodeFrame(forwardedMessage({pid, {false, "https://github.com/", title}}));
@@ -62,14 +57,14 @@ TEST(BrowserBridgeServer, KeepsEachBrowsersLatestGoodReportWhileItsHostIsConnect
     ASSERT_TRUE(s.server.listening());
     const auto self = static_cast<std::int64_t>(::getpid());
     {
-        Client host(s.path);
-        ASSERT_TRUE(host.connected());
+        const int host = connectTo(s.path);
+        ASSERT_GE(host, 0);
         testing::internal::CaptureStderr();
         // Garbage, an oversized frame and invalid UTF-8 are dropped; the reports around them stand.
-        host.send(report(self, "first") + encodeFrame("{nope") +
-                  encodeFrame(std::string(kMaxFrameBytes + 1, '{')) +
-                  encodeFrame("{\"pid\":1,\"private\":false,\"url\":\"a\",\"title\":\"\xFF\"}") +
-                  report(7, "other"));
+        send(host, report(self, "first") + encodeFrame("{nope") +
+                       encodeFrame(std::string(kMaxFrameBytes + 1, '{')) +
+                       encodeFrame("{\"pid\":1,\"private\":false,\"url\":\"a\",\"title\":\"\xFF\"}") +
+                       report(7, "other"));
         ASSERT_TRUE(test::waitUntil([&] { return s.titleOf(7).has_value(); }));
         EXPECT_EQ(s.titleOf(self), std::nullopt) << "the later report of the same host replaces it";
         const auto logged = testing::internal::GetCapturedStderr();
@@ -80,12 +75,13 @@ TEST(BrowserBridgeServer, KeepsEachBrowsersLatestGoodReportWhileItsHostIsConnect
         std::string flood;
         for (int i = 0; i < 10'000; ++i)
             flood += report(self, "tab " + std::to_string(i));
-        host.send(flood);
+        send(host, flood);
         ASSERT_TRUE(test::waitUntil([&] { return s.titleOf(self) == "tab 9999"; }));
         const auto latest = s.server.latestReport(self);
         EXPECT_EQ(latest->program, std::filesystem::read_symlink("/proc/self/exe").filename());
         EXPECT_EQ(latest->received, 1000);
         EXPECT_EQ(s.server.latestReports().size(), 1u);
+        ::close(host);
     }
     EXPECT_TRUE(test::waitUntil([&] { return s.server.latestReports().empty(); }))
         << "a host that is gone takes its report with it";
@@ -99,8 +95,7 @@ TEST(BrowserBridgeServer, AnotherUsersProcessCannotReport) {
     if (child == 0) {
         if (::setuid(65534) != 0)
             ::_exit(2);
-        Client host(s.path);
-        ::_exit(host.connected() ? 1 : 0);
+        ::_exit(connectTo(s.path) >= 0 ? 1 : 0);
     }
     int status = 0;
     ::waitpid(child, &status, 0);

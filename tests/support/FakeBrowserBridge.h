@@ -1,8 +1,8 @@
 // A browser bridge whose reports the test sets. Thread-safe.
 #pragma once
 
+#include <algorithm>
 #include <mutex>
-#include <vector>
 
 #include "Platform/BrowserBridge.h"
 
@@ -16,11 +16,8 @@ public:
     }
     std::optional<BrowserTabReport> latestReport(std::int64_t pid) override {
         std::lock_guard lock(mutex_);
-        for (const auto& report : reports_) {
-            if (report.pid == pid)
-                return report;
-        }
-        return std::nullopt;
+        auto found = std::find_if(reports_.begin(), reports_.end(), [pid](auto& r) { return r.pid == pid; });
+        return found == reports_.end() ? std::nullopt : std::optional(*found);
     }
     std::vector<BrowserTabReport> latestReports() override {
         std::lock_guard lock(mutex_);
