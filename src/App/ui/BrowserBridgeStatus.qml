@@ -24,7 +24,7 @@ ColumnLayout {
     Label {
         Layout.fillWidth: true
         wrapMode: Text.Wrap
-        text: "With the Larkspan extension in your browser, activities record the page you are on."
+        text: "With Larkspan's extension in a browser, activities record the page you are on."
         color: root.secondaryText
         font.pixelSize: 13
     }
