@@ -1,11 +1,16 @@
 // One capture of the desktop as the activity monitor makes it every 4 seconds: the frontmost
 // application with its identity, its focused window title and the idle time, against a private
 // Xvfb display with openbox and an xterm in front. The floor beside it is a single round trip to
-// the server (the idle query alone); the ratio shows what identity and titles add.
+// the server (the idle query alone); the ratio shows what identity and titles add. A second xterm
+// stands for a browser window whose extension reported its tab: its capture adds the tab script,
+// answered from the bridge.
 #include <benchmark/benchmark.h>
 
+#include "FakeBrowserBridge.h"
 #include "ManualMainQueue.h"
+#include "Platform/Linux/LinuxScriptRunner.h"
 #include "Platform/Linux/X11Workspace.h"
+#include "Platform/TabScripts.h"
 #include "XvfbDisplay.h"
 
 namespace larkspan {
@@ -15,6 +20,9 @@ struct Desktop {
     test::XvfbDisplay display;
     std::shared_ptr<X11Workspace> workspace;
     std::int64_t pid = 0;
+    std::string window;
+    std::string browserWindow;
+    std::shared_ptr<test::FakeBrowserBridge> bridge = std::make_shared<test::FakeBrowserBridge>();
     std::string error;
 
     Desktop() {
@@ -24,11 +32,16 @@ struct Desktop {
         }
         display.spawn({"xterm", "-class", "LarkspanBench", "-T", "Benchmark \xE2\x9C\x93 window", "-e",
                        "sleep", "600"});
+        display.spawn({"xterm", "-class", "LarkspanBrowser", "-T", "larkspan/tracker: Issues - Chromium",
+                       "-xrm", "XTerm*allowTitleOps: false", "-e", "sleep", "600"});
         const auto windows = display.windowsOfClass("LarkspanBench");
-        if (windows.empty()) {
+        const auto browsers = display.windowsOfClass("LarkspanBrowser");
+        if (windows.empty() || browsers.empty()) {
             error = "xterm did not start";
             return;
         }
+        window = windows[0];
+        browserWindow = browsers[0];
         auto session = SessionEnvironment::fromProcess();  // the real desktop-entry folders
         session.display = display.name();
         session.wayland = false;
@@ -44,6 +57,20 @@ struct Desktop {
         if (!pid)
             error = "the xterm never came to the front";
     }
+
+    // Brings `target` to the front; its owner's pid, or 0 when it never got there.
+    std::int64_t bringToFront(const std::string& target) {
+        std::int64_t front = 0;
+        test::waitUntil([&] {
+            display.activate(target);
+            auto focused = workspace->frontWindow();
+            front = focused && focused->title.ends_with(target == browserWindow ? "Chromium" : "window")
+                        ? focused->pid
+                        : 0;
+            return front != 0;
+        });
+        return front;
+    }
 };
 
 Desktop& desktop() {
@@ -57,6 +84,10 @@ void BM_FullCapture(benchmark::State& state) {
         state.SkipWithError(d.error.c_str());
         return;
     }
+    if (!d.bringToFront(d.window)) {
+        state.SkipWithError("the xterm never came to the front");
+        return;
+    }
     for (auto _ : state) {
         const double idle = d.workspace->secondsSinceLastInput();
         auto app = d.workspace->frontmostApplication();
@@ -68,6 +99,36 @@ void BM_FullCapture(benchmark::State& state) {
     }
 }
 BENCHMARK(BM_FullCapture)->Unit(benchmark::kMicrosecond);
+
+// The capture of a browser in front: the sample as above, then the tab script answered from the
+// bridge's report after comparing it with the window's title.
+void BM_FullCaptureWithBridgeAnswer(benchmark::State& state) {
+    auto& d = desktop();
+    if (!d.error.empty()) {
+        state.SkipWithError(d.error.c_str());
+        return;
+    }
+    const auto browserPid = d.bringToFront(d.browserWindow);
+    if (!browserPid) {
+        state.SkipWithError("the browser window never came to the front");
+        return;
+    }
+    d.bridge->setReports({{browserPid, "chromium", false, "https://github.com/larkspan/tracker/issues",
+                           "larkspan/tracker: Issues", 0}});
+    LinuxScriptRunner runner(d.workspace, d.bridge);
+    const auto script = runner.compile(chromiumFamilyTabScript("Chromium"));
+    for (auto _ : state) {
+        const double idle = d.workspace->secondsSinceLastInput();
+        auto app = d.workspace->frontmostApplication();
+        auto title = app ? d.workspace->focusedWindowTitle(app->pid) : std::nullopt;
+        auto tab = runner.execute(*script);
+        benchmark::DoNotOptimize(idle);
+        benchmark::DoNotOptimize(title);
+        if (!tab)
+            state.SkipWithError("the bridge did not answer");
+    }
+}
+BENCHMARK(BM_FullCaptureWithBridgeAnswer)->Unit(benchmark::kMicrosecond);
 
 void BM_OneRoundTrip(benchmark::State& state) {
     auto& d = desktop();

@@ -8,9 +8,13 @@
 #include <memory>
 
 #include "App/AppDelegate.h"
+#include "App/ui/BrowserBridgeInstall.h"
+#include "App/ui/BrowserBridgeStatusModel.h"
 #include "App/ui/QtAppPresenter.h"
+#include "BrowserHost/BridgeProtocol.h"
 #include "Data/Database.h"
 #include "Platform/Linux/AppIdentity.h"
+#include "Platform/Linux/BrowserBridgeServer.h"
 #include "Platform/Linux/CanberraSoundPlayer.h"
 #include "Platform/Linux/DesktopEntries.h"
 #include "Platform/Linux/LinuxScriptRunner.h"
@@ -41,6 +45,8 @@ bool hasDisplay() {
 }  // namespace
 
 int main(int argc, char** argv) {
+    if (const auto status = runBrowserBridgeOption(argc, argv))
+        return *status;
     if (!hasDisplay()) {
         std::fputs("Larkspan needs a graphical session: neither DISPLAY nor WAYLAND_DISPLAY is set.\n",
                    stderr);
@@ -65,13 +71,17 @@ int main(int argc, char** argv) {
     auto entries = std::make_shared<DesktopEntries>(session.applicationDirs, session.localeKeys);
     auto workspace =
         std::make_shared<X11Workspace>(session, std::make_shared<AppIdentity>(entries), mainQueue, notifier);
-    LinuxScriptRunner scripts(workspace);
     SystemClock clock;
+    auto browserBridge = std::make_shared<BrowserBridgeServer>(bridgeSocketPath(), clock);
+    LinuxScriptRunner scripts(workspace, browserBridge);
     QtRepeatingTimer timers;
     SettingsStore defaults;
     CanberraSoundPlayer sounds;
     NotificationCenter notifications;
     SerialQueue monitorQueue(kMonitorQueueLabel);
+    // Before the presenter, whose views show it to the end.
+    BrowserBridgeStatusModel browserStatus(browserBridge, clock);
+    BrowserBridgeStatusModel::share(&browserStatus);
     QtAppPresenter presenter;
 
     auto delegate = std::make_shared<AppDelegate>(

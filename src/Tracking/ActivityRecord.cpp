@@ -6,6 +6,7 @@
 #include <array>
 
 #include "Platform/OptionalText.h"
+#include "Platform/TrimBlanks.h"
 
 namespace larkspan {
 
@@ -46,12 +47,7 @@ std::string cleanBrowserTitle(std::string_view title) {
             break;
         }
     }
-    const auto blank = [](char c) { return c == ' ' || c == '\t'; };
-    while (!title.empty() && blank(title.front()))
-        title.remove_prefix(1);
-    while (!title.empty() && blank(title.back()))
-        title.remove_suffix(1);
-    return std::string(title);
+    return std::string(trimBlanks(title));
 }
 
 ActivityRecord ActivityRecord::idle(Date startTime, std::int64_t categoryID) {

@@ -3,6 +3,7 @@
 #include <uriparser/Uri.h>
 
 #include "Platform/TabScripts.h"
+#include "Platform/TrimBlanks.h"
 
 namespace larkspan {
 
@@ -10,15 +11,6 @@ namespace {
 
 constexpr std::string_view kSeparator = "|||";
 constexpr const char* kFallbackBrowserName = "Google Chrome";
-
-std::string_view trimmed(std::string_view text) {
-    const auto blank = [](char c) { return c == ' ' || c == '\t'; };
-    while (!text.empty() && blank(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && blank(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
 
 // "address|||title" as a tab; further parts are dropped, so a title holding "|||" ends there.
 std::optional<TabInfo> parseTabAnswer(std::string_view answer) {
@@ -29,8 +21,8 @@ std::optional<TabInfo> parseTabAnswer(std::string_view answer) {
     const std::string_view rest = answer.substr(first + kSeparator.size());
     const std::string_view title = rest.substr(0, rest.find(kSeparator));
     TabInfo tab;
-    tab.url = std::string(trimmed(answer.substr(0, first)));
-    tab.title = std::string(trimmed(title));
+    tab.url = std::string(trimBlanks(answer.substr(0, first)));
+    tab.title = std::string(trimBlanks(title));
     tab.domain = BrowserTracker::extractDomain(tab.url);
     return tab;
 }

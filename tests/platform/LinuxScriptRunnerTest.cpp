@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <tuple>
 
+#include "FakeBrowserBridge.h"
 #include "Platform/TabScripts.h"
 
 namespace larkspan {
@@ -14,11 +16,13 @@ const std::string kSafariScript(kSafariTabScript);
 
 class FakeWindows final : public ApplicationWindows {
 public:
+    std::optional<FrontWindow> frontWindow() override { return front; }
     std::optional<std::string> frontWindowTitle(const std::string& bundleID) override {
         asked.push_back(bundleID);
         auto it = titles.find(bundleID);
         return it == titles.end() ? std::nullopt : std::optional(it->second);
     }
+    std::optional<FrontWindow> front;
     std::map<std::string, std::string> titles;
     std::vector<std::string> asked;
 };
@@ -64,6 +68,70 @@ TEST(LinuxScriptRunner, FirefoxIsAnsweredFromItsFrontWindowOthersFail) {
         EXPECT_FALSE(runner.execute(*script));
     }
     EXPECT_EQ(windows->asked.size(), 3u);
+}
+
+TEST(LinuxScriptRunner, TabTitlesAgreeUpToTheBrowsersNameBehindADash) {
+    const std::vector<std::tuple<const char*, const char*, bool>> cases = {
+        {"Issues", "Issues - Chromium", true},
+        {"Issues", "Issues \u2014 Mozilla Firefox", true},
+        {"Issues", "Issues \u2013 Profile 2 - Google Chrome", true},
+        {" Issues ", "Issues", true},
+        {"Issues \xF0\x9F\x9A\x80 \"q\"", "Issues \xF0\x9F\x9A\x80 \"q\" - Brave", true},
+        {"Issues", "Issues 2 - Chromium", false},
+        {"Issues", "Pull requests - Chromium", false},
+        {"Issues - Chromium", "Issues", false},
+        {"", " - Chromium", false},
+        {"Issues", "", false},
+    };
+    for (const auto& [tab, window, agrees] : cases)
+        EXPECT_EQ(tabTitleAgrees(tab, window), agrees) << tab << " / " << window;
+}
+
+TEST(LinuxScriptRunner, TheBridgeAnswersOnlyForTheFrontBrowsersAgreeingTab) {
+    auto windows = std::make_shared<FakeWindows>();
+    auto bridge = std::make_shared<test::FakeBrowserBridge>();
+    LinuxScriptRunner runner(windows, bridge);
+    const auto chromium = runner.compile(chromiumFamilyTabScript("Chromium"));
+    const auto firefox = runner.compile(kFirefoxScript);
+    ASSERT_TRUE(chromium && firefox);
+    windows->titles["org.mozilla.firefox"] = "Docs \u2014 Mozilla Firefox";
+
+    const BrowserTabReport github{700, "chromium", false, "https://github.com/x", "x: Issues", 10};
+    struct Case {
+        const char* what;
+        FrontWindow front;
+        BrowserTabReport report;
+        std::optional<std::string> chromiumAnswer;
+        std::string firefoxAnswer;
+    };
+    const std::vector<Case> cases = {
+        {"fresh and matching",
+         {700, "x: Issues - Chromium"},
+         github,
+         "https://github.com/x|||x: Issues",
+         "https://github.com/x|||x: Issues"},
+        {"stale: the window shows another tab",
+         {700, "Inbox - Chromium"},
+         github,
+         std::nullopt,
+         "firefox://active|||Docs \u2014 Mozilla Firefox"},
+        {"another browser's report",
+         {701, "x: Issues - Chromium"},
+         github,
+         std::nullopt,
+         "firefox://active|||Docs \u2014 Mozilla Firefox"},
+        {"a private tab",
+         {700, "x: Issues - Chromium"},
+         {700, "chromium", true, "", "", 10},
+         std::nullopt,
+         "firefox://active|||Docs \u2014 Mozilla Firefox"},
+    };
+    for (const auto& c : cases) {
+        windows->front = c.front;
+        bridge->setReports({c.report});
+        EXPECT_EQ(runner.execute(*chromium), c.chromiumAnswer) << c.what;
+        EXPECT_EQ(runner.execute(*firefox), c.firefoxAnswer) << c.what;
+    }
 }
 
 }  // namespace

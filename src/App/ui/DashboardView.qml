@@ -141,6 +141,13 @@ Rectangle {
                     font.pixelSize: 24
                     font.weight: Font.DemiBold
                 }
+                BrowserBridgeStatus {
+                    objectName: "browserBridgeStatus"
+                    Layout.fillWidth: true
+                    Layout.bottomMargin: 12
+                    visible: root.controller.shownTab === "Settings"
+                    secondaryText: root.secondaryText
+                }
                 Label {
                     objectName: "detailLine"
                     Layout.fillWidth: true

@@ -21,6 +21,10 @@ const std::vector<CanonicalIdentifier>& canonicalIdentifiers() {
         {"org.mozilla.firefox", "org.mozilla.firefox"},
         {"firefox-developer-edition", "org.mozilla.firefox"},
         {"firefox-nightly", "org.mozilla.firefox"},
+        // Chromium is Chrome without the branding: the same browser to the rule tables.
+        {"chromium", "com.google.Chrome"},
+        {"chromium-browser", "com.google.Chrome"},
+        {"org.chromium.chromium", "com.google.Chrome"},
         {"google-chrome", "com.google.Chrome"},
         {"google-chrome-stable", "com.google.Chrome"},
         {"com.google.chrome", "com.google.Chrome"},

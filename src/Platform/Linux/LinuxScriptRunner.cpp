@@ -14,8 +14,9 @@ public:
 
 }  // namespace
 
-LinuxScriptRunner::LinuxScriptRunner(std::shared_ptr<ApplicationWindows> windows)
-    : windows_(std::move(windows)) {}
+LinuxScriptRunner::LinuxScriptRunner(std::shared_ptr<ApplicationWindows> windows,
+                                     std::shared_ptr<BrowserBridge> bridge)
+    : windows_(std::move(windows)), bridge_(std::move(bridge)) {}
 
 std::shared_ptr<CompiledScript> LinuxScriptRunner::compile(const std::string& source) {
     auto script = recogniseTabScript(source);
@@ -26,10 +27,29 @@ std::shared_ptr<CompiledScript> LinuxScriptRunner::compile(const std::string& so
 
 std::optional<std::string> LinuxScriptRunner::execute(const CompiledScript& compiled) {
     const auto* recognised = dynamic_cast<const RecognisedScript*>(&compiled);
-    if (!recognised || recognised->script.kind != TabScript::Kind::firefox)
+    if (!recognised)
+        return std::nullopt;
+    const auto kind = recognised->script.kind;
+    if (kind == TabScript::Kind::firefox || kind == TabScript::Kind::chromiumFamily) {
+        if (auto answer = bridgeAnswer())
+            return answer;
+    }
+    if (kind != TabScript::Kind::firefox)
         return std::nullopt;
     const auto title = windows_ ? windows_->frontWindowTitle(kFirefoxIdentifier) : std::nullopt;
     return "firefox://active|||" + title.value_or("Firefox");
+}
+
+std::optional<std::string> LinuxScriptRunner::bridgeAnswer() {
+    if (!bridge_ || !windows_)
+        return std::nullopt;
+    const auto front = windows_->frontWindow();
+    if (!front)
+        return std::nullopt;
+    const auto report = bridge_->latestReport(front->pid);
+    if (!report || report->isPrivate || !tabTitleAgrees(report->title, front->title))
+        return std::nullopt;
+    return report->url + "|||" + report->title;
 }
 
 }  // namespace larkspan

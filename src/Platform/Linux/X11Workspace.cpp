@@ -131,6 +131,21 @@ std::optional<std::string> X11Workspace::focusedWindowTitle(std::int64_t pid) {
     return std::nullopt;
 }
 
+std::optional<FrontWindow> X11Workspace::frontWindow() {
+    auto connection = queryConnection();
+    if (!connection)
+        return std::nullopt;
+    const auto active = frontWindow(*connection);
+    if (active == XCB_WINDOW_NONE)
+        return std::nullopt;
+    FrontWindow front;
+    auto title = connection->title(active, &front.pid);
+    if (!title)
+        return std::nullopt;
+    front.title = std::move(*title);
+    return front;
+}
+
 std::optional<std::string> X11Workspace::frontWindowTitle(const std::string& bundleID) {
     auto connection = queryConnection();
     if (!connection)

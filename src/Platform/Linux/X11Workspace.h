@@ -50,6 +50,7 @@ public:
     bool canReadWindows() override;
     void promptForWindowAccess() override;
 
+    std::optional<FrontWindow> frontWindow() override;
     std::optional<std::string> frontWindowTitle(const std::string& bundleID) override;
 
 private:

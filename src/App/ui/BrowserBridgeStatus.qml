@@ -1,0 +1,67 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Larkspan
+
+// The Settings page's browser section: per browser, whether Larkspan's extension reported its
+// active tab in the last minute.
+ColumnLayout {
+    id: root
+
+    property color secondaryText: palette.windowText
+
+    spacing: 8
+
+    Label {
+        objectName: "browserBridgeTitle"
+        Layout.fillWidth: true
+        text: "Browser tabs"
+        color: palette.windowText
+        font.pixelSize: 16
+        font.weight: Font.DemiBold
+        Accessible.role: Accessible.Heading
+    }
+    Label {
+        Layout.fillWidth: true
+        wrapMode: Text.Wrap
+        text: "With Larkspan's extension in a browser, activities record the page you are on."
+        color: root.secondaryText
+        font.pixelSize: 13
+    }
+
+    Repeater {
+        model: BrowserBridgeStatusModel
+
+        RowLayout {
+            required property string name
+            required property bool reported
+            required property string detail
+
+            objectName: "browser-" + name
+            Layout.fillWidth: true
+            spacing: 10
+            Accessible.role: Accessible.ListItem
+            Accessible.name: name + ": " + detail
+
+            Rectangle {
+                implicitWidth: 8
+                implicitHeight: 8
+                radius: 4
+                color: parent.reported ? palette.highlight
+                                       : Qt.rgba(palette.windowText.r, palette.windowText.g,
+                                                 palette.windowText.b, 0.25)
+            }
+            Label {
+                Layout.fillWidth: true
+                text: parent.name
+                color: palette.windowText
+                font.pixelSize: 14
+            }
+            Label {
+                text: parent.detail
+                color: root.secondaryText
+                font.pixelSize: 13
+            }
+        }
+    }
+}
