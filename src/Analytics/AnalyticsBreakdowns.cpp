@@ -19,7 +19,7 @@ double fractionOf(std::int64_t part, std::int64_t whole) {
 }  // namespace
 
 std::vector<CategoryFigure> categoryFigures(const std::vector<ActivityRecord>& records,
-                                            const CategoryMap& catMap) {
+                                            const CategoriesByID& catMap) {
     std::unordered_map<std::int64_t, std::int64_t> secondsByCategory;
     for (const ActivityRecord& record : records) {
         secondsByCategory[effectiveCategoryID(record)] += record.durationSeconds;
@@ -53,7 +53,7 @@ std::vector<CategoryFigure> categoryFigures(const std::vector<ActivityRecord>& r
     return figures;
 }
 
-std::vector<AppFigure> appFigures(const std::vector<ActivityRecord>& records, const CategoryMap& catMap) {
+std::vector<AppFigure> appFigures(const std::vector<ActivityRecord>& records, const CategoriesByID& catMap) {
     std::vector<AppFigure> figures;
     std::unordered_map<std::string, std::size_t> indexByApp;
     for (const ActivityRecord& record : records) {

@@ -8,15 +8,7 @@
 
 namespace larkspan::analytics {
 
-CategoryMap makeCategoryMap(const std::vector<Category>& categories) {
-    CategoryMap map;
-    map.reserve(categories.size());
-    for (const Category& category : categories)
-        map.try_emplace(category.id, category);
-    return map;
-}
-
-PeriodTotals periodTotals(const std::vector<ActivityRecord>& records, const CategoryMap& catMap) {
+PeriodTotals periodTotals(const std::vector<ActivityRecord>& records, const CategoriesByID& catMap) {
     PeriodTotals totals;
     for (const ActivityRecord& record : records) {
         totals.totalSeconds += record.durationSeconds;

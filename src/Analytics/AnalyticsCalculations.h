@@ -13,7 +13,7 @@
 
 #include "Analytics/AnalyticsBreakdowns.h"
 #include "Analytics/AnalyticsSeries.h"
-#include "Analytics/CategoryMap.h"
+#include "Analytics/EffectiveCategory.h"
 #include "Analytics/FocusSessions.h"
 #include "Analytics/TimeRange.h"
 #include "Tracking/ActivityRecord.h"
@@ -27,7 +27,7 @@ struct PeriodTotals {
     bool operator==(const PeriodTotals&) const = default;
 };
 
-PeriodTotals periodTotals(const std::vector<ActivityRecord>& records, const CategoryMap& catMap);
+PeriodTotals periodTotals(const std::vector<ActivityRecord>& records, const CategoriesByID& catMap);
 
 // Productive ÷ total × 100, truncated toward zero; 0 when the total is 0 or less.
 std::int64_t productivityScore(const PeriodTotals& totals);

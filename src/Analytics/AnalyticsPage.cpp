@@ -3,7 +3,7 @@
 namespace larkspan::analytics {
 
 AnalyticsPage analyticsPage(const AnalyticsData& data, const std::vector<Category>& categories) {
-    const CategoryMap catMap = makeCategoryMap(categories);
+    const CategoriesByID catMap = categoriesByID(categories);
     const std::vector<ActivityRecord>& records = data.activities;
     AnalyticsPage page;
 

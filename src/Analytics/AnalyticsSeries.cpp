@@ -9,7 +9,7 @@
 
 namespace larkspan::analytics {
 
-std::vector<DailyBar> dailySeries(const std::vector<ActivityRecord>& records, const CategoryMap& catMap,
+std::vector<DailyBar> dailySeries(const std::vector<ActivityRecord>& records, const CategoriesByID& catMap,
                                   double chartHeight) {
     struct Day {
         int ordinal;  // the oldest date in the group; orders groups across a change of year
@@ -51,7 +51,8 @@ std::vector<DailyBar> dailySeries(const std::vector<ActivityRecord>& records, co
     return bars;
 }
 
-HourlyMinutes hourlyProductiveMinutes(const std::vector<ActivityRecord>& records, const CategoryMap& catMap) {
+HourlyMinutes hourlyProductiveMinutes(const std::vector<ActivityRecord>& records,
+                                      const CategoriesByID& catMap) {
     const double days = static_cast<double>(std::max<std::int64_t>(1, uniqueDays(records)));
     LocalDayCache hours;
     HourlyMinutes minutes;

@@ -7,7 +7,7 @@
 namespace larkspan::analytics {
 
 std::vector<FocusSession> focusSessions(const std::vector<ActivityRecord>& activities,
-                                        const CategoryMap& catMap) {
+                                        const CategoriesByID& catMap) {
     struct Span {
         Date start;
         Date end;

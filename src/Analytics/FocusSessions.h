@@ -15,7 +15,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "Analytics/CategoryMap.h"
+#include "Analytics/EffectiveCategory.h"
 #include "Platform/Clock.h"
 #include "Tracking/ActivityRecord.h"
 
@@ -36,7 +36,7 @@ struct FocusSession {
 // instant, take no part. A record's end is its `endTime`, or start plus duration while it is open.
 // Within a run the end is replaced by each joining record's end, never the larger of the two.
 std::vector<FocusSession> focusSessions(const std::vector<ActivityRecord>& activities,
-                                        const CategoryMap& catMap);
+                                        const CategoriesByID& catMap);
 
 // The greatest duration among `sessions`; 0 when there are none.
 std::int64_t longestFocusSession(const std::vector<FocusSession>& sessions);

@@ -27,7 +27,7 @@ std::vector<ActivityRecord> recentActivities(std::vector<ActivityRecord> activit
 }
 
 std::vector<RecentRow> recentRows(const std::vector<ActivityRecord>& recent,
-                                  const std::map<std::int64_t, Category>& categories) {
+                                  const CategoriesByID& categories) {
     std::vector<RecentRow> rows;
     for (const ActivityRecord& activity : recent) {
         if (rows.size() == kRecentRowLimit) {
@@ -40,8 +40,7 @@ std::vector<RecentRow> recentRows(const std::vector<ActivityRecord>& recent,
     return rows;
 }
 
-Breakdown breakdown(const std::optional<DaySummary>& summary,
-                    const std::map<std::int64_t, Category>& categories) {
+Breakdown breakdown(const std::optional<DaySummary>& summary, const CategoriesByID& categories) {
     Breakdown result;
     if (!summary || summary->byCategory.empty()) {
         return result;
@@ -89,8 +88,7 @@ Color toneColor(ProductivityTone tone) {
     return Color::fromHex("#FF3B30");
 }
 
-SessionRow sessionRow(const std::optional<ActivityRecord>& session,
-                      const std::map<std::int64_t, Category>& categories) {
+SessionRow sessionRow(const std::optional<ActivityRecord>& session, const CategoriesByID& categories) {
     if (!session) {
         return SessionRow{glyph::cup, "No active session", "", std::nullopt, false};
     }
@@ -119,14 +117,6 @@ std::string pendingBannerText(std::int64_t count) {
 
 std::string pendingFooterText(std::int64_t count) {
     return std::to_string(count) + " pending";
-}
-
-std::map<std::int64_t, Category> categoryMap(const std::vector<Category>& categories) {
-    std::map<std::int64_t, Category> map;
-    for (const Category& category : categories) {
-        map[category.id] = category;
-    }
-    return map;
 }
 
 }  // namespace larkspan

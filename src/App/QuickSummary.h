@@ -5,7 +5,6 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -52,7 +51,7 @@ struct RecentRow {
 
 // The first five of `recent` as the list draws them.
 std::vector<RecentRow> recentRows(const std::vector<ActivityRecord>& recent,
-                                  const std::map<std::int64_t, Category>& categories);
+                                  const CategoriesByID& categories);
 
 struct BreakdownBar {
     Category category;
@@ -69,8 +68,7 @@ struct Breakdown {
 
 // The four categories with the most seconds, most first (ties by id). A category missing from
 // `categories` is not drawn but still takes its place among the four.
-Breakdown breakdown(const std::optional<DaySummary>& summary,
-                    const std::map<std::int64_t, Category>& categories);
+Breakdown breakdown(const std::optional<DaySummary>& summary, const CategoriesByID& categories);
 
 enum class ProductivityTone { green, orange, red };
 
@@ -95,8 +93,7 @@ struct SessionRow {
     bool operator==(const SessionRow&) const = default;
 };
 
-SessionRow sessionRow(const std::optional<ActivityRecord>& session,
-                      const std::map<std::int64_t, Category>& categories);
+SessionRow sessionRow(const std::optional<ActivityRecord>& session, const CategoriesByID& categories);
 
 struct TimerControls {
     std::string modeIcon;          // "🍅" in focus, "☕" in either break
@@ -112,8 +109,5 @@ TimerControls timerControls(PomodoroTimer::Mode mode, PomodoroTimer::RunState st
 // "<count> activities need review" and "<count> pending".
 std::string pendingBannerText(std::int64_t count);
 std::string pendingFooterText(std::int64_t count);
-
-// Categories by id, the later of two equal ids winning.
-std::map<std::int64_t, Category> categoryMap(const std::vector<Category>& categories);
 
 }  // namespace larkspan

@@ -11,8 +11,7 @@ std::string StatusTitle::plainText() const {
 }
 
 StatusTitle buildStatusTitle(const std::optional<ActivityRecord>& session, std::int64_t pendingCount,
-                             const std::map<std::int64_t, Category>& categories,
-                             const TimerTitleState& timer) {
+                             const CategoriesByID& categories, const TimerTitleState& timer) {
     StatusTitle title;
     title.pendingCount = pendingCount;
     if (!session) {

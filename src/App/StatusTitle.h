@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -45,7 +44,6 @@ struct StatusTitle {
 };
 
 StatusTitle buildStatusTitle(const std::optional<ActivityRecord>& session, std::int64_t pendingCount,
-                             const std::map<std::int64_t, Category>& categories,
-                             const TimerTitleState& timer);
+                             const CategoriesByID& categories, const TimerTitleState& timer);
 
 }  // namespace larkspan

@@ -1,7 +1,5 @@
 #include "App/TrayMenu.h"
 
-#include <map>
-
 namespace larkspan {
 
 TrayMenu::TrayMenu(SessionManager& sessionManager, Database& database, PomodoroTimer& pomodoroTimer,
@@ -44,9 +42,7 @@ void TrayMenu::refresh() {
 }
 
 void TrayMenu::updateButton(const std::optional<ActivityRecord>& session, std::int64_t pendingCount) {
-    std::map<std::int64_t, Category> categories;
-    for (auto& category : database_.fetchCategories())
-        categories.emplace(category.id, std::move(category));
+    const CategoriesByID categories = categoriesByID(database_.fetchCategories());
 
     const auto runState = pomodoroTimer_.runState.get();
     TimerTitleState timer;

@@ -1,9 +1,11 @@
 // The application tables. Each is consulted at most once per new activity and is small (55 bundle
-// prefixes, 66 name keywords, 21 extensions), so look-ups scan in order; the name is lower-cased
-// once into a stack buffer, and the title is matched in place at each "." it holds.
+// prefixes and 12 role identifiers, 66 name keywords, 21 extensions), so look-ups scan in order; the
+// name is lower-cased once into a stack buffer, and the title is matched in place at each "." it
+// holds.
 #include "Classification/AppRules.h"
 
 #include "Classification/Category.h"
+#include "Platform/AppRoles.h"
 #include "Platform/AsciiLower.h"
 
 namespace larkspan {
@@ -71,6 +73,17 @@ constexpr BundleRule kBundleRules[] = {
     {"com.valvesoftware.steam", id::gaming, 0.92},
 };
 
+// The desktop's own tools by role, each with the category and confidence of the bundle row of the
+// same role. No bundle prefix begins one of them, so they are tried after the whole table.
+constexpr BundleRule kRoleRules[] = {
+    {app_role::terminal, id::terminal, 0.99},   {app_role::mail, id::email, 0.99},
+    {app_role::calendar, id::planning, 0.97},   {app_role::tasks, id::planning, 0.92},
+    {app_role::notes, id::writing, 0.90},       {app_role::music, id::music, 0.95},
+    {app_role::video, id::entertainment, 0.99}, {app_role::settings, id::system, 0.99},
+    {app_role::monitor, id::system, 0.99},      {app_role::logs, id::system, 0.99},
+    {app_role::files, id::files, 0.95},         {app_role::photos, id::files, 0.85},
+};
+
 constexpr std::string_view kIdeNames[] = {
     "xcode", "android studio", "intellij", "pycharm", "webstorm", "clion", "rider", "goland", "rubymine",
 };
@@ -113,6 +126,15 @@ constexpr std::string_view kSourceFileExtensions[] = {
 };
 constexpr double kSourceFileConfidence = 0.80;
 
+std::optional<ClassificationResult> firstPrefixMatch(std::span<const BundleRule> rules,
+                                                     std::string_view bundleID) {
+    for (const BundleRule& rule : rules) {
+        if (bundleID.starts_with(rule.prefix))
+            return ClassificationResult{rule.categoryID, rule.confidence};
+    }
+    return std::nullopt;
+}
+
 }  // namespace
 
 std::span<const BundleRule> bundleRules() {
@@ -126,11 +148,9 @@ std::span<const std::string_view> sourceFileExtensions() {
 }
 
 std::optional<ClassificationResult> classifyByBundleID(std::string_view bundleID) {
-    for (const BundleRule& rule : kBundleRules) {
-        if (bundleID.starts_with(rule.prefix))
-            return ClassificationResult{rule.categoryID, rule.confidence};
-    }
-    return std::nullopt;
+    if (auto result = firstPrefixMatch(kBundleRules, bundleID))
+        return result;
+    return firstPrefixMatch(kRoleRules, bundleID);
 }
 
 std::optional<ClassificationResult> classifyByAppName(std::string_view appName) {

@@ -30,7 +30,8 @@ std::span<const BundleRule> bundleRules();                 // 55 rows, in the or
 std::span<const AppNameRuleGroup> appNameRuleGroups();     // 12 groups, in the order tried
 std::span<const std::string_view> sourceFileExtensions();  // 21 entries, each with its leading "."
 
-// The first row whose prefix `bundleID` begins with (case-sensitive), or absent.
+// The first row whose prefix `bundleID` begins with (case-sensitive), else the result of the role
+// identifier (Platform/AppRoles.h) it begins with, or absent.
 std::optional<ClassificationResult> classifyByBundleID(std::string_view bundleID);
 
 // The first group with a keyword anywhere in `appName`, ASCII case-insensitively, or absent.

@@ -144,8 +144,15 @@ const Category* categoryWithID(const std::vector<Category>& categories, std::opt
     return found == categories.end() ? nullptr : &*found;
 }
 
-const Category* categoryWithID(const std::map<std::int64_t, Category>& categories,
-                               std::optional<std::int64_t> id) {
+CategoriesByID categoriesByID(const std::vector<Category>& categories) {
+    CategoriesByID byID;
+    byID.reserve(categories.size());
+    for (const Category& category : categories)
+        byID.try_emplace(category.id, category);
+    return byID;
+}
+
+const Category* categoryWithID(const CategoriesByID& categories, std::optional<std::int64_t> id) {
     if (!id)
         return nullptr;
     const auto found = categories.find(*id);

@@ -3,10 +3,10 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace larkspan {
@@ -50,10 +50,17 @@ struct Category {
     static const std::vector<Category>& seeded();
 };
 
+// A catalogue as a look-up by id, for code that looks up many records against one catalogue.
+using CategoriesByID = std::unordered_map<std::int64_t, Category>;
+
+// The catalogue by id. Ids are unique in a stored catalogue (its primary key); should one repeat in
+// a list made otherwise, the first category with that id wins, as it does for categoryWithID over
+// the list itself.
+CategoriesByID categoriesByID(const std::vector<Category>& categories);
+
 // The category with `id` in a catalogue; null when `id` is absent or not there.
 const Category* categoryWithID(const std::vector<Category>& categories, std::optional<std::int64_t> id);
-const Category* categoryWithID(const std::map<std::int64_t, Category>& categories,
-                               std::optional<std::int64_t> id);
+const Category* categoryWithID(const CategoriesByID& categories, std::optional<std::int64_t> id);
 
 // The ids of the seeded categories. Rules name categories by these ids, never by name.
 namespace category_id {

@@ -5,7 +5,6 @@
 #include <limits>
 
 #include "Data/Database.h"
-#include "Data/SqlText.h"
 
 namespace larkspan {
 namespace {
@@ -84,29 +83,27 @@ std::int64_t Database::insertActivity(const ActivityRecord& record) {
 }
 
 void Database::updateActivityEnd(std::int64_t id, Date endTime, std::int64_t duration) {
-    execDiscardingError("UPDATE activities SET end_time=" + sqlNumber(endTime) +
-                        ", duration_seconds=" + sqlNumber(duration) + " WHERE id=" + sqlNumber(id));
+    runDiscardingError("UPDATE activities SET end_time=?, duration_seconds=? WHERE id=?", endTime, duration,
+                       id);
 }
 
 void Database::updateActivityCategory(std::int64_t id, std::int64_t categoryID, bool isApproved) {
-    execDiscardingError("UPDATE activities SET category_id=" + sqlNumber(categoryID) + ", is_approved=" +
-                        (isApproved ? "1" : "0") + ", needs_approval=0 WHERE id=" + sqlNumber(id));
+    runDiscardingError("UPDATE activities SET category_id=?, is_approved=?, needs_approval=0 WHERE id=?",
+                       categoryID, isApproved, id);
 }
 
 void Database::updateActivityTimes(std::int64_t id, Date startTime, Date endTime) {
     const std::int64_t duration = std::max<std::int64_t>(0, wholeSecondsBetween(startTime, endTime));
-    execDiscardingError("UPDATE activities SET start_time=" + sqlNumber(startTime) +
-                        ",\nend_time=" + sqlNumber(endTime) + ", duration_seconds=" + sqlNumber(duration) +
-                        " WHERE id=" + sqlNumber(id));
+    runDiscardingError("UPDATE activities SET start_time=?,\nend_time=?, duration_seconds=? WHERE id=?",
+                       startTime, endTime, duration, id);
 }
 
 void Database::updateActivityNotes(std::int64_t id, const std::string& notes) {
-    execDiscardingError("UPDATE activities SET notes='" + escapeQuotes(notes) +
-                        "' WHERE id=" + sqlNumber(id));
+    runDiscardingError("UPDATE activities SET notes=? WHERE id=?", notes, id);
 }
 
 void Database::deleteActivity(std::int64_t id) {
-    execDiscardingError("DELETE FROM activities WHERE id=" + sqlNumber(id));
+    runDiscardingError("DELETE FROM activities WHERE id=?", id);
 }
 
 std::vector<ActivityRecord> Database::fetchActivities(Date from, Date to) {
@@ -123,18 +120,20 @@ std::vector<ActivityRecord> Database::fetchActivities(Date from, Date to) {
 
 std::optional<ActivityRecord> Database::fetchActivity(std::int64_t id) {
     std::optional<ActivityRecord> activity;
-    queryRows(kActivityColumns + " WHERE id=" + sqlNumber(id) + " LIMIT 1", nullptr,
-              [&](sqlite3_stmt* stmt) { readActivity(stmt, activity.emplace()); });
+    queryRows(
+        kActivityColumns + " WHERE id=? LIMIT 1", [&](sqlite3_stmt* stmt) { bindValues(stmt, id); },
+        [&](sqlite3_stmt* stmt) { readActivity(stmt, activity.emplace()); });
     return activity;
 }
 
 std::vector<ActivityRecord> Database::fetchPendingApprovals(int limit) {
     std::vector<ActivityRecord> activities;
-    queryRows(kActivityColumns +
-                  "\nWHERE needs_approval=1 AND is_approved=0 AND duration_seconds >= 30\n"
-                  "ORDER BY start_time DESC LIMIT " +
-                  sqlNumber(limit),
-              nullptr, [&](sqlite3_stmt* stmt) { readActivity(stmt, activities.emplace_back()); });
+    queryRows(
+        kActivityColumns +
+            "\nWHERE needs_approval=1 AND is_approved=0 AND duration_seconds >= 30\n"
+            "ORDER BY start_time DESC LIMIT ?",
+        [&](sqlite3_stmt* stmt) { bindValues(stmt, limit); },
+        [&](sqlite3_stmt* stmt) { readActivity(stmt, activities.emplace_back()); });
     return activities;
 }
 
@@ -156,9 +155,9 @@ std::vector<std::int64_t> Database::fetchTopCategoryIDs(int limit) {
     queryRows(
         "SELECT category_id, COUNT(*) AS cnt\nFROM activities\nWHERE is_approved=1 AND category_id IS NOT "
         "NULL\n"
-        "GROUP BY category_id\nORDER BY cnt DESC\nLIMIT " +
-            sqlNumber(limit),
-        nullptr, [&](sqlite3_stmt* stmt) { ids.push_back(sqlite3_column_int64(stmt, 0)); });
+        "GROUP BY category_id\nORDER BY cnt DESC\nLIMIT ?",
+        [&](sqlite3_stmt* stmt) { bindValues(stmt, limit); },
+        [&](sqlite3_stmt* stmt) { ids.push_back(sqlite3_column_int64(stmt, 0)); });
     return ids;
 }
 

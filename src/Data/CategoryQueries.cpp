@@ -1,8 +1,6 @@
-// The statements on `categories`. The user's own categories are written as statement text with
-// their texts quoted; the foreign keys from activities and learned rules (no ON DELETE action)
-// decide what deleteCategory must release first.
+// The statements on `categories`. The foreign keys from activities and learned rules (no ON DELETE
+// action) decide what deleteCategory must release first.
 #include "Data/Database.h"
-#include "Data/SqlText.h"
 
 namespace larkspan {
 
@@ -28,22 +26,19 @@ std::vector<Category> Database::fetchCategories() {
 }
 
 void Database::insertCategory(const Category& category) {
-    const std::string parent = category.parentID ? sqlNumber(*category.parentID) : "NULL";
-    const std::string sql =
-        "INSERT INTO categories (name, color_hex, icon, productivity, parent_id, is_system, sort_order)\n"
-        "VALUES ('" +
-        escapeQuotes(category.name) + "', '" + escapeQuotes(category.colorHex) + "', '" +
-        escapeQuotes(category.icon) + "', " + sqlNumber(rawValue(category.productivity)) + ",\n" + parent +
-        ", 0, " + sqlNumber(category.sortOrder) + ")";
-    runOnQueue([&] { exec(sql); });
+    runOnQueue([&] {
+        run("INSERT INTO categories (name, color_hex, icon, productivity, parent_id, is_system, sort_order)\n"
+            "VALUES (?, ?, ?, ?,\n?, 0, ?)",
+            category.name, category.colorHex, category.icon, rawValue(category.productivity),
+            category.parentID, category.sortOrder);
+    });
 }
 
 void Database::updateCategory(const Category& category) {
-    const std::string sql = "UPDATE categories SET name='" + escapeQuotes(category.name) + "', color_hex='" +
-                            escapeQuotes(category.colorHex) + "', icon='" + escapeQuotes(category.icon) +
-                            "',\nproductivity=" + sqlNumber(rawValue(category.productivity)) +
-                            " WHERE id=" + sqlNumber(category.id);
-    runOnQueue([&] { exec(sql); });
+    runOnQueue([&] {
+        run("UPDATE categories SET name=?, color_hex=?, icon=?,\nproductivity=? WHERE id=?", category.name,
+            category.colorHex, category.icon, rawValue(category.productivity), category.id);
+    });
 }
 
 // One transaction, so that a failure leaves rules, activities and the category as they were. The
@@ -51,22 +46,12 @@ void Database::updateCategory(const Category& category) {
 void Database::deleteCategory(std::int64_t id) {
     if (id == category_id::other)
         return;
-    const std::string target = sqlNumber(id);
     runOnQueue([&] {
-        exec("BEGIN IMMEDIATE");
-        try {
-            exec("DELETE FROM learned_rules WHERE category_id=" + target);
-            exec("UPDATE activities SET category_id=21 WHERE category_id=" + target);
-            exec("DELETE FROM categories WHERE id=" + target);
-            exec("COMMIT");
-        } catch (const DBError&) {
-            try {
-                exec("ROLLBACK");
-            } catch (const DBError&) {
-                // SQLite has already rolled back on its own; the original error is what counts.
-            }
-            throw;
-        }
+        inTransaction([&] {
+            run("DELETE FROM learned_rules WHERE category_id=?", id);
+            run("UPDATE activities SET category_id=? WHERE category_id=?", category_id::other, id);
+            run("DELETE FROM categories WHERE id=?", id);
+        });
     });
 }
 

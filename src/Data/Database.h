@@ -5,8 +5,8 @@
 // Threads. Every operation below puts its statement on the store queue ("com.larkspan.db") by a
 // synchronous dispatch and waits, so operations from any thread run one at a time and a read after
 // a write from the same thread sees it. Three paths run on the caller's thread beside the queue:
-// query() (and so pendingApprovalCount()), and exec() as called directly by the session and
-// retention logic. SQLite runs in serialized mode, which makes that safe on the one connection.
+// query() (and so pendingApprovalCount()), and exec() and run() as called directly by the session
+// and retention logic. SQLite runs in serialized mode, which makes that safe on the one connection.
 // Callbacks given to query()/queryRows() must not call back into a queued operation.
 //
 // Failures. Operations that callers must know about throw DBError (marked "throws"); other writes
@@ -103,6 +103,19 @@ public:
     // Runs one or more statements with sqlite3_exec on the caller's thread. Returns true; throws
     // execFailed with SQLite's text ("unknown" when it gives none).
     bool exec(const std::string& sql);
+
+    // Runs the one statement `sql` on the caller's thread with `values` bound to its parameters
+    // in order (see bindValue). Throws prepareFailed, or execFailed with SQLite's text. Every value
+    // a statement carries is bound this way, never written into its text.
+    template <typename... Values>
+    void run(const std::string& sql, const Values&... values) {
+        Statement statement(db_.get(), sql);
+        if (!statement)
+            throw DBError(DBError::Kind::prepareFailed, errMsg());
+        bindValues(statement.get(), values...);
+        if (sqlite3_step(statement.get()) != SQLITE_DONE)
+            throw DBError(DBError::Kind::execFailed, errMsg());
+    }
 
     // Prepares `sql` on the caller's thread, calls `bind` (may be empty), returns what `map`
     // returns; `map` steps the statement itself. Throws prepareFailed when `sql` does not prepare.
@@ -202,12 +215,25 @@ private:
     void addColumnIfMissing(const std::string& table, const std::string& column,
                             const std::string& definition);
     void seedCategories();
+    void adoptRoleIdentifiers();
 
     // Runs `work` on the queue and waits. A DBError it throws is thrown again on the caller's
     // thread as a fresh copy, so no exception object is shared between the two threads.
     void runOnQueue(const std::function<void()>& work);
-    // On the queue: runs `sql` through exec and discards any error.
-    void execDiscardingError(const std::string& sql);
+    // Runs `work` in one transaction on the caller's thread: committed when it returns, rolled back
+    // when it throws DBError, which is thrown on.
+    void inTransaction(const std::function<void()>& work);
+    // On the queue: runs `sql` with `values` bound and discards any error.
+    template <typename... Values>
+    void runDiscardingError(const std::string& sql, const Values&... values) {
+        queue_.sync([&] {
+            try {
+                run(sql, values...);
+            } catch (const DBError&) {
+                // Writes of this kind fail silently by design; the row keeps its old state.
+            }
+        });
+    }
     // SQLite's message for the connection's last failure; "unknown" without a connection.
     std::string errMsg() const;
 

@@ -134,14 +134,19 @@ void Database::runOnQueue(const std::function<void()>& work) {
         throw DBError(*kind, message);
 }
 
-void Database::execDiscardingError(const std::string& sql) {
-    queue_.sync([&] {
+void Database::inTransaction(const std::function<void()>& work) {
+    exec("BEGIN IMMEDIATE");
+    try {
+        work();
+        exec("COMMIT");
+    } catch (const DBError&) {
         try {
-            exec(sql);
+            exec("ROLLBACK");
         } catch (const DBError&) {
-            // Writes of this kind fail silently by design; the row keeps its old state.
+            // SQLite has already rolled back on its own; the original error is what counts.
         }
-    });
+        throw;
+    }
 }
 
 std::optional<std::string> Database::string(sqlite3_stmt* stmt, int column) {

@@ -1,19 +1,14 @@
 // The statements on `learned_rules`: what the user has taught, one category per type and key, the
 // latest answer winning.
 #include "Data/Database.h"
-#include "Data/SqlText.h"
 
 namespace larkspan {
 
-// The type comes from a fixed vocabulary ("domain", "bundle_id", …); it is escaped like the key all
-// the same, which leaves those words unchanged and keeps any other text inside its quotes.
 void Database::saveLearnedRule(const std::string& type, const std::string& key, std::int64_t categoryID) {
-    const std::string category = sqlNumber(categoryID);
-    execDiscardingError(
-        "INSERT INTO learned_rules (rule_type, rule_key, category_id, updated_at)\nVALUES ('" +
-        escapeQuotes(type) + "', '" + escapeQuotes(key) + "', " + category +
-        ", unixepoch())\nON CONFLICT(rule_type, rule_key) DO UPDATE SET category_id=" + category +
-        ", updated_at=unixepoch()");
+    runDiscardingError(
+        "INSERT INTO learned_rules (rule_type, rule_key, category_id, updated_at)\nVALUES (?, ?, ?, "
+        "unixepoch())\nON CONFLICT(rule_type, rule_key) DO UPDATE SET category_id=?, updated_at=unixepoch()",
+        type, key, categoryID, categoryID);
 }
 
 std::vector<LearnedRule> Database::fetchLearnedRules() {

@@ -1,13 +1,16 @@
 // The schema, brought up to date on every start, and the first filling of the category catalogue.
 //
-// There is no schema version. Every step is safe to repeat: CREATE statements say IF NOT EXISTS,
-// and the two columns added after the first release are added by an ALTER whose duplicate-column
-// failure on an up-to-date database is ignored. A second start therefore changes nothing.
+// The schema steps are safe to repeat: CREATE statements say IF NOT EXISTS, and the two columns
+// added after the first release are added by an ALTER whose duplicate-column failure on an
+// up-to-date database is ignored. Databases made before activities had is_manual (manual entries)
+// and notes (the user's notes) gain both columns here; their rows read is_manual 0 and notes NULL.
 //
-// Databases made before activities had is_manual (manual entries) and notes (the user's notes) gain
-// both columns here; their rows read is_manual 0 and notes NULL.
+// Steps that rewrite stored data run once each, counted in PRAGMA user_version:
+//   1  the desktop's own tools (terminals, mail clients, file managers, …) were stored under another
+//      platform's identifier of the same role; they take Larkspan's role identifiers.
+// A second start therefore changes nothing.
 #include "Data/Database.h"
-#include "Data/SqlText.h"
+#include "Platform/AppRoles.h"
 
 namespace larkspan {
 namespace {
@@ -89,6 +92,29 @@ const char* const kCreateLearnedRules =
     "    UNIQUE(rule_type, rule_key)\n"
     ");";
 
+// Version 1: what earlier builds stored for each role. On Linux these identifiers came from nowhere
+// else, so every row that carries one is a tool of that role.
+struct RoleRename {
+    std::string_view former;
+    std::string_view role;
+};
+constexpr RoleRename kRoleRenames[] = {
+    {"com.apple.Terminal", app_role::terminal},
+    {"com.apple.mail", app_role::mail},
+    {"com.apple.iCal", app_role::calendar},
+    {"com.apple.reminders", app_role::tasks},
+    {"com.apple.Notes", app_role::notes},
+    {"com.apple.Music", app_role::music},
+    {"com.apple.TV", app_role::video},
+    {"com.apple.systempreferences", app_role::settings},
+    {"com.apple.ActivityMonitor", app_role::monitor},
+    {"com.apple.Console", app_role::logs},
+    {"com.apple.finder", app_role::files},
+    {"com.apple.Photos", app_role::photos},
+};
+
+const std::string_view kBundleIDRule = "bundle_id";
+
 }  // namespace
 
 void Database::migrate() {
@@ -103,6 +129,34 @@ void Database::migrate() {
     exec(kCreateTodoIndex);
     exec(kCreateDailyPomoCounts);
     exec(kCreateLearnedRules);
+
+    const int version = query("PRAGMA user_version", nullptr, [](sqlite3_stmt* stmt) {
+        return sqlite3_step(stmt) == SQLITE_ROW ? sqlite3_column_int(stmt, 0) : 0;
+    });
+    if (version < 1)
+        adoptRoleIdentifiers();
+}
+
+// All or nothing, together with the version, so that an interrupted start runs the step again in
+// full. One pass over each table through a temporary list rather than a pass per identifier.
+// A "bundle_id" rule already stored under a role identifier can only come from a build that used
+// them, so it is the later answer: it stays, and the former rule of the same role goes.
+void Database::adoptRoleIdentifiers() {
+    inTransaction([this] {
+        exec("CREATE TEMP TABLE role_renames (former TEXT PRIMARY KEY, role TEXT NOT NULL)");
+        for (const RoleRename& rename : kRoleRenames)
+            run("INSERT INTO role_renames (former, role) VALUES (?, ?)", rename.former, rename.role);
+        exec(
+            "UPDATE activities SET bundle_id = (SELECT role FROM role_renames WHERE former = bundle_id)\n"
+            "WHERE bundle_id IN (SELECT former FROM role_renames)");
+        run("UPDATE OR IGNORE learned_rules SET rule_key = (SELECT role FROM role_renames WHERE former = "
+            "rule_key)\nWHERE rule_type = ? AND rule_key IN (SELECT former FROM role_renames)",
+            kBundleIDRule);
+        run("DELETE FROM learned_rules WHERE rule_type = ? AND rule_key IN (SELECT former FROM role_renames)",
+            kBundleIDRule);
+        exec("DROP TABLE role_renames");
+        exec("PRAGMA user_version = 1");
+    });
 }
 
 // Does not look at the table first: the ALTER itself is the test, and its duplicate-column failure
@@ -123,13 +177,10 @@ void Database::seedCategories() {
     if (count != 0)
         return;
     for (const Category& category : Category::seeded()) {
-        exec(
-            "INSERT OR IGNORE INTO categories (id, name, color_hex, icon, productivity, is_system, "
-            "sort_order)\n"
-            "VALUES (" +
-            sqlNumber(category.id) + ", '" + escapeQuotes(category.name) + "', '" +
-            escapeQuotes(category.colorHex) + "', '" + escapeQuotes(category.icon) + "', " +
-            sqlNumber(rawValue(category.productivity)) + ", 1, " + sqlNumber(category.sortOrder) + ");");
+        run("INSERT OR IGNORE INTO categories (id, name, color_hex, icon, productivity, is_system, "
+            "sort_order)\nVALUES (?, ?, ?, ?, ?, 1, ?);",
+            category.id, category.name, category.colorHex, category.icon, rawValue(category.productivity),
+            category.sortOrder);
     }
 }
 

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace larkspan {
 
@@ -61,6 +62,45 @@ inline void bindDouble(sqlite3_stmt* stmt, int index, std::optional<double> valu
 
 inline void bindBool(sqlite3_stmt* stmt, int index, bool value) {
     sqlite3_bind_int(stmt, index, value ? 1 : 0);
+}
+
+// bindValue: one parameter by the type of its value. Texts as bindText, integers of 32 and 64 bits,
+// floats (a NaN stores NULL), booleans as 1 or 0, an absent optional as NULL. Any other type, a
+// string literal included, is refused at compile time rather than converted (a `const char*`
+// would otherwise become a boolean).
+template <typename T>
+void bindValue(sqlite3_stmt* stmt, int index, const T& value) = delete;
+
+inline void bindValue(sqlite3_stmt* stmt, int index, const std::string& text) {
+    bindText(stmt, index, text);
+}
+inline void bindValue(sqlite3_stmt* stmt, int index, std::string_view text) {
+    bindText(stmt, index, std::string(text));
+}
+inline void bindValue(sqlite3_stmt* stmt, int index, const std::optional<std::string>& text) {
+    bindText(stmt, index, text);
+}
+inline void bindValue(sqlite3_stmt* stmt, int index, int value) {
+    sqlite3_bind_int(stmt, index, value);
+}
+inline void bindValue(sqlite3_stmt* stmt, int index, std::int64_t value) {
+    sqlite3_bind_int64(stmt, index, value);
+}
+inline void bindValue(sqlite3_stmt* stmt, int index, std::optional<std::int64_t> value) {
+    bindInt64(stmt, index, value);
+}
+inline void bindValue(sqlite3_stmt* stmt, int index, double value) {
+    sqlite3_bind_double(stmt, index, value);
+}
+inline void bindValue(sqlite3_stmt* stmt, int index, bool value) {
+    bindBool(stmt, index, value);
+}
+
+// Binds `values` to parameters 1, 2, … in order.
+template <typename... Values>
+void bindValues(sqlite3_stmt* stmt, const Values&... values) {
+    [[maybe_unused]] int index = 0;
+    (bindValue(stmt, ++index, values), ...);
 }
 
 // The column's UTF-8 text up to its first NUL, valid until the next step; null for NULL.

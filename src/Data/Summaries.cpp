@@ -1,10 +1,7 @@
 // Totals for the screens: a local day, the days of a month, the most visited domains. Days and
 // months are summed in memory from the activity and category reads; nothing is cached, so a
 // summary always reflects what is stored (the running session with its latest heartbeat).
-#include <unordered_map>
-
 #include "Data/Database.h"
-#include "Data/SqlText.h"
 #include "Platform/LocalDay.h"
 
 namespace larkspan {
@@ -19,9 +16,7 @@ DaySummary Database::daySummary(Date date) {
     const Date start = startOfLocalDay(date);
     const std::vector<ActivityRecord> activities = fetchActivities(start, startOfNextLocalDay(date));
 
-    std::unordered_map<std::int64_t, Productivity> productivity;
-    for (const Category& category : fetchCategories())
-        productivity[category.id] = category.productivity;
+    const CategoriesByID categories = categoriesByID(fetchCategories());
 
     for (const ActivityRecord& activity : activities) {
         const std::int64_t seconds = activity.durationSeconds;
@@ -30,10 +25,9 @@ DaySummary Database::daySummary(Date date) {
         const std::int64_t category = activity.categoryID.value_or(category_id::other);
         summary.totalSeconds += seconds;
         summary.byCategory[category] += seconds;
-        const auto found = productivity.find(category);
-        if (found != productivity.end() && found->second == Productivity::productive) {
+        const Category* known = categoryWithID(categories, category);
+        if (known != nullptr && known->productivity == Productivity::productive)
             summary.productiveSeconds += seconds;
-        }
     }
     return summary;
 }
@@ -56,12 +50,8 @@ std::vector<DomainTotal> Database::fetchTopDomains(Date from, Date to, int limit
     queryRows(
         "SELECT url_domain, SUM(duration_seconds) as total\nFROM activities\n"
         "WHERE start_time >= ? AND start_time <= ? AND url_domain IS NOT NULL AND url_domain != ''\n"
-        "GROUP BY url_domain ORDER BY total DESC LIMIT " +
-            sqlNumber(limit),
-        [&](sqlite3_stmt* stmt) {
-            sqlite3_bind_double(stmt, 1, from);
-            sqlite3_bind_double(stmt, 2, to);
-        },
+        "GROUP BY url_domain ORDER BY total DESC LIMIT ?",
+        [&](sqlite3_stmt* stmt) { bindValues(stmt, from, to, limit); },
         [&](sqlite3_stmt* stmt) {
             domains.push_back(DomainTotal{string(stmt, 0).value_or(""), sqlite3_column_int(stmt, 1)});
         });

@@ -2,7 +2,6 @@
 // they were made; "today" is the day of the instant the caller passes in, taken afresh per call, so
 // each day starts with an empty list while earlier days keep their rows.
 #include "Data/Database.h"
-#include "Data/SqlText.h"
 #include "Platform/LocalDay.h"
 
 namespace larkspan {
@@ -30,56 +29,43 @@ std::int64_t Database::insertTodo(const std::string& title, Date now) {
     const std::string today = todayDateString(now);
     std::int64_t rowID = 0;
     runOnQueue([&] {
-        Statement statement(db_.get(), "INSERT INTO todo_items (title, created_date) VALUES (?, ?)");
-        if (!statement)
-            throw DBError(DBError::Kind::prepareFailed, errMsg());
-        bindText(statement.get(), 1, title);
-        bindText(statement.get(), 2, today);
-        if (sqlite3_step(statement.get()) != SQLITE_DONE)
-            throw DBError(DBError::Kind::execFailed, errMsg());
+        run("INSERT INTO todo_items (title, created_date) VALUES (?, ?)", title, today);
         rowID = sqlite3_last_insert_rowid(db_.get());
     });
     return rowID;
 }
 
 void Database::updateTodoTitle(std::int64_t id, const std::string& title) {
-    queue_.sync([&] {
-        Statement statement(db_.get(), "UPDATE todo_items SET title = ? WHERE id = ?");
-        if (!statement)
-            return;
-        bindText(statement.get(), 1, title);
-        sqlite3_bind_int64(statement.get(), 2, id);
-        sqlite3_step(statement.get());
-    });
+    runDiscardingError("UPDATE todo_items SET title = ? WHERE id = ?", title, id);
 }
 
 void Database::toggleTodoComplete(std::int64_t id) {
-    execDiscardingError("UPDATE todo_items SET is_completed = NOT is_completed WHERE id = " + sqlNumber(id));
+    runDiscardingError("UPDATE todo_items SET is_completed = NOT is_completed WHERE id = ?", id);
 }
 
 void Database::incrementTodoPomo(std::int64_t id) {
-    execDiscardingError("UPDATE todo_items SET pomodoro_count = pomodoro_count + 1 WHERE id = " +
-                        sqlNumber(id));
+    runDiscardingError("UPDATE todo_items SET pomodoro_count = pomodoro_count + 1 WHERE id = ?", id);
 }
 
 void Database::reorderTodo(std::int64_t id, int sortOrder) {
-    execDiscardingError("UPDATE todo_items SET sort_order = " + sqlNumber(sortOrder) +
-                        " WHERE id = " + sqlNumber(id));
+    runDiscardingError("UPDATE todo_items SET sort_order = ? WHERE id = ?", sortOrder, id);
 }
 
 void Database::deleteTodo(std::int64_t id) {
-    execDiscardingError("DELETE FROM todo_items WHERE id = " + sqlNumber(id));
+    runDiscardingError("DELETE FROM todo_items WHERE id = ?", id);
 }
 
 void Database::deleteCompletedTodos(Date now) {
-    execDiscardingError("DELETE FROM todo_items WHERE is_completed = 1 AND created_date = '" +
-                        escapeQuotes(todayDateString(now)) + "'");
+    runDiscardingError("DELETE FROM todo_items WHERE is_completed = 1 AND created_date = ?",
+                       todayDateString(now));
 }
 
 void Database::incrementDailyPomoCount(Date now) {
-    execDiscardingError("INSERT INTO daily_pomo_counts (date, count) VALUES ('" +
-                        escapeQuotes(todayDateString(now)) +
-                        "', 1)\nON CONFLICT(date) DO UPDATE SET count = count + 1");
+    runDiscardingError(
+        "INSERT INTO daily_pomo_counts (date, count) VALUES (?, 1)\nON CONFLICT(date) DO UPDATE SET count = "
+        "count "
+        "+ 1",
+        todayDateString(now));
 }
 
 std::map<std::string, int> Database::fetchDailyPomoCounts(Date from, Date to) {

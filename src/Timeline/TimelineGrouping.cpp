@@ -5,16 +5,18 @@
 #include <string_view>
 #include <utility>
 
+#include "Platform/AppRoles.h"
 #include "Timeline/GraphemePrefix.h"
 
 namespace larkspan {
 
 namespace {
 
-constexpr std::array<std::string_view, 12> kGroupedByAppPrefixes = {
+constexpr std::array<std::string_view, 13> kGroupedByAppPrefixes = {
     "com.cursor.",        "com.microsoft.VSCode",  "com.apple.dt.Xcode",    "com.jetbrains.",
     "io.zed.zed",         "com.sublimetext.",      "com.panic.Nova",        "dev.warp.Warp-1",
     "com.apple.Terminal", "com.googlecode.iterm2", "com.mitchellh.ghostty", "net.kovidgoyal.kitty",
+    app_role::terminal,
 };
 
 // An empty record for the derived values of a block or chapter built by hand without activities.

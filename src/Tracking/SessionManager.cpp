@@ -83,7 +83,7 @@ void SessionManager::closeSession(Date now) {
     const std::int64_t duration = wholeSecondsBetween(sessionStartTime_, now);
     if (minSessionDuration > static_cast<double>(duration)) {
         try {
-            db_.exec("DELETE FROM activities WHERE id=" + std::to_string(sessionID_));
+            db_.run("DELETE FROM activities WHERE id=?", sessionID_);
         } catch (const std::exception&) {
             // The short row stays with what its last heartbeat wrote.
         }

@@ -44,7 +44,7 @@ TEST_F(AppIdentityTest, MoreReliableCluesWinOverTheWindowClass) {
     // The GTK application id beats a WM_CLASS that points elsewhere.
     EXPECT_EQ(
         idOf(resolve({.gtkApplicationID = "org.gnome.Nautilus", .wmInstance = "code", .wmClass = "Code"})),
-        "com.apple.finder");
+        "org.larkspan.role.files");
     // An unknown GTK id falls through to the next clue.
     EXPECT_EQ(idOf(resolve(
                   {.gtkApplicationID = "org.example.Gone", .wmInstance = "Navigator", .wmClass = "firefox"})),

@@ -4,11 +4,14 @@
 
 #include <set>
 
+#include "Classification/AppRules.h"
+
 namespace larkspan {
 namespace {
 
 // Every identifier the classification tables, the browser list and the idle thresholds name, as
-// prefixes: an identifier the table produces must begin with one of them to be of any use.
+// prefixes: an identifier the table produces must begin with one of them, or be a role identifier
+// the bundle rules know, to be of any use.
 const std::vector<std::string_view> kRuleIdentifiers = {
     "com.apple.dt.Xcode", "com.microsoft.VSCode", "com.jetbrains.", "com.cursor.", "io.zed.zed",
     "com.sublimetext.", "com.barebones.bbedit", "com.panic.Nova", "com.microsoft.rdc.macos",
@@ -34,7 +37,7 @@ TEST(CanonicalIdentifiers, EveryRowIsLowerCaseUniqueAndNamesARuleIdentifier) {
         EXPECT_TRUE(keys.insert(row.key).second) << "duplicate key " << row.key;
         for (char c : row.key)
             EXPECT_FALSE(c >= 'A' && c <= 'Z') << row.key;
-        bool known = false;
+        bool known = classifyByBundleID(row.identifier).has_value();
         for (auto prefix : kRuleIdentifiers)
             known = known || row.identifier.substr(0, prefix.size()) == prefix;
         EXPECT_TRUE(known) << row.key << " -> " << row.identifier;
@@ -59,18 +62,21 @@ TEST(CanonicalIdentifiers, ShipsOfOneProductMeetAtOneIdentifier) {
              {"jetbrains-pycharm-ce", "com.jetbrains.pycharm.ce"},
              {"dev.zed.Zed", "io.zed.zed"},
              {"kitty", "net.kovidgoyal.kitty"},
-             {"org.gnome.Terminal", "com.apple.Terminal"},
-             {"org.kde.konsole", "com.apple.Terminal"},
+             {"org.gnome.Terminal", "org.larkspan.role.terminal"},
+             {"org.kde.konsole", "org.larkspan.role.terminal"},
+             {"XTerm", "org.larkspan.role.terminal"},
              {"com.slack.Slack", "com.tinyspeck.slackmacgap"},
              {"com.discordapp.Discord", "com.hnc.Discord"},
              {"org.telegram.desktop", "ru.keepcoder.Telegram"},
              {"us.zoom.Zoom", "us.zoom.xos"},
-             {"org.mozilla.Thunderbird", "com.apple.mail"},
+             {"org.mozilla.Thunderbird", "org.larkspan.role.mail"},
              {"com.spotify.Client", "com.spotify.client"},
              {"org.videolan.VLC", "org.videolan.vlc"},
              {"io.mpv.Mpv", "io.mpv.mpv"},
              {"com.valvesoftware.Steam", "com.valvesoftware.steam"},
-             {"org.gnome.Nautilus", "com.apple.finder"},
+             {"org.gnome.Nautilus", "org.larkspan.role.files"},
+             {"org.gnome.Totem", "org.larkspan.role.video"},
+             {"gnome-control-center", "org.larkspan.role.settings"},
          }) {
         EXPECT_EQ(canonicalIdentifier(key).value_or("(none)"), identifier) << key;
     }

@@ -111,12 +111,12 @@ QString QuickSummaryController::totalText() const {
 }
 
 bool QuickSummaryController::hasBreakdown() const {
-    return breakdown(shown_.summary, categoryMap(shown_.categories)).hasData;
+    return breakdown(shown_.summary, categoriesByID(shown_.categories)).hasData;
 }
 
 QVariantList QuickSummaryController::breakdownBars() const {
     QVariantList bars;
-    for (const BreakdownBar& bar : breakdown(shown_.summary, categoryMap(shown_.categories)).bars) {
+    for (const BreakdownBar& bar : breakdown(shown_.summary, categoriesByID(shown_.categories)).bars) {
         bars.append(QVariantMap{{"icon", text(bar.category.icon)},
                                 {"name", text(bar.category.name)},
                                 {"color", qColor(bar.category.color())},
@@ -138,7 +138,7 @@ QVariantList QuickSummaryController::recentRows() const {
     QVariantList rows;
     const QLocale locale;
     const QString timeFormat = shortTimeFormat(locale);
-    for (const RecentRow& row : larkspan::recentRows(shown_.recent, categoryMap(shown_.categories))) {
+    for (const RecentRow& row : larkspan::recentRows(shown_.recent, categoriesByID(shown_.categories))) {
         rows.append(QVariantMap{{"icon", text(row.icon)},
                                 {"title", text(row.title)},
                                 {"time", locale.toString(localDateTime(row.startTime).time(), timeFormat)},
@@ -148,7 +148,8 @@ QVariantList QuickSummaryController::recentRows() const {
 }
 
 QVariantMap QuickSummaryController::session() const {
-    const SessionRow row = sessionRow(sessionManager_.currentSession.get(), categoryMap(shown_.categories));
+    const SessionRow row =
+        sessionRow(sessionManager_.currentSession.get(), categoriesByID(shown_.categories));
     return {{"icon", text(row.icon)},
             {"title", text(row.title)},
             {"subtitle", text(row.subtitle)},

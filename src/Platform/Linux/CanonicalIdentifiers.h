@@ -1,6 +1,7 @@
 // Maps well-known Linux applications to the reverse-DNS identifier that the classification tables
 // and the browser list use for the same product, so that Firefox from a distribution, a Flatpak or
-// a tarball is `org.mozilla.firefox` everywhere downstream and classifies like it.
+// a tarball is `org.mozilla.firefox` everywhere downstream and classifies like it; the desktop's own
+// tools map to the identifier of their role (Platform/AppRoles.h).
 #pragma once
 
 #include <optional>

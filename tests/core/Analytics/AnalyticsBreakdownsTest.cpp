@@ -16,7 +16,7 @@ ActivityRecord record(std::string app, std::int64_t seconds, std::optional<std::
 }
 
 TEST(CategoryFigures, EightLongestWithFractionsOfEveryCategory) {
-    const CategoryMap catMap = makeCategoryMap(Category::seeded());
+    const CategoriesByID catMap = categoriesByID(Category::seeded());
     // Nine categories: 1 to 8 with 100 to 800 seconds, one with 50 that drops out of the list but
     // stays in the total of 3650. No category counts under 21; two ids tie at 300.
     std::vector<ActivityRecord> records;
@@ -39,7 +39,7 @@ TEST(CategoryFigures, EightLongestWithFractionsOfEveryCategory) {
 }
 
 TEST(CategoryFigures, UnknownIdKeepsItsOwnRowAsOther) {
-    const auto figures = categoryFigures({record("App", 60, 99), record("App", 0, 1)}, makeCategoryMap({}));
+    const auto figures = categoryFigures({record("App", 60, 99), record("App", 0, 1)}, categoriesByID({}));
     ASSERT_EQ(figures.size(), 2u);
     EXPECT_EQ(figures[0].categoryID, 99);
     EXPECT_EQ(figures[0].name, "Other");
@@ -47,11 +47,11 @@ TEST(CategoryFigures, UnknownIdKeepsItsOwnRowAsOther) {
     EXPECT_EQ(figures[0].color, Color::fromHex("#8E8E93"));
     EXPECT_EQ(figures[0].fraction, 1.0);
     EXPECT_EQ(figures[1].fraction, 0.0);
-    EXPECT_TRUE(categoryFigures({}, makeCategoryMap({})).empty());
+    EXPECT_TRUE(categoryFigures({}, categoriesByID({})).empty());
 }
 
 TEST(AppFigures, OneRowPerNameWithItsFirstIconScaledToTheLongest) {
-    const CategoryMap catMap = makeCategoryMap(Category::seeded());
+    const CategoriesByID catMap = categoriesByID(Category::seeded());
     std::vector<ActivityRecord> records = {record("Browser", 100, 17), record("Browser", 500, 1),
                                            record("Away", 300, 15), record("Away", 100, 15),
                                            record("Mystery", 200, 99)};

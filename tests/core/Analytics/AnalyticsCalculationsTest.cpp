@@ -40,7 +40,7 @@ TEST(DayLabel, PartAfterTheLastSlash) {
 }
 
 TEST(PeriodTotals, ProductiveOnlyForKnownProductiveCategories) {
-    const CategoryMap catMap = makeCategoryMap(Category::seeded());
+    const CategoriesByID catMap = categoriesByID(Category::seeded());
     // No category reads as "Other" (neutral); id 99 is not in the catalogue and never productive.
     const std::vector<ActivityRecord> records = {record(0, 2000), record(0, 500, std::nullopt),
                                                  record(0, 700, 99), record(0, 800, kGaming)};

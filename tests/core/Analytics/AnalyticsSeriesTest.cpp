@@ -23,8 +23,8 @@ ActivityRecord record(Date start, std::int64_t seconds, std::optional<std::int64
     return test::ActivityBuilder(0, start, seconds).category(category);
 }
 
-const CategoryMap& seeded() {
-    static const CategoryMap map = makeCategoryMap(Category::seeded());
+const CategoriesByID& seeded() {
+    static const CategoriesByID map = categoriesByID(Category::seeded());
     return map;
 }
 

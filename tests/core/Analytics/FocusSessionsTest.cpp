@@ -20,7 +20,7 @@ ActivityRecord record(Date start, std::int64_t seconds, std::optional<std::int64
 }
 
 std::vector<FocusSession> sessionsOf(const std::vector<ActivityRecord>& records) {
-    return focusSessions(records, makeCategoryMap(Category::seeded()));
+    return focusSessions(records, categoriesByID(Category::seeded()));
 }
 
 TEST(FocusSessions, TwentyFiveMinutesIsTheShortestSession) {

@@ -9,8 +9,8 @@ namespace {
 
 using test::ActivityBuilder;
 
-std::map<std::int64_t, Category> catalogue() {
-    return categoryMap(Category::seeded());
+CategoriesByID catalogue() {
+    return categoriesByID(Category::seeded());
 }
 
 DaySummary summaryOf(std::map<std::int64_t, std::int64_t> byCategory, std::int64_t productive) {

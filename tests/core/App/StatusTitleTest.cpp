@@ -5,11 +5,8 @@
 namespace larkspan {
 namespace {
 
-std::map<std::int64_t, Category> catalogue() {
-    std::map<std::int64_t, Category> map;
-    for (const auto& c : Category::seeded())
-        map[c.id] = c;
-    return map;
+CategoriesByID catalogue() {
+    return categoriesByID(Category::seeded());
 }
 
 ActivityRecord session(std::string app, std::optional<std::int64_t> category) {
@@ -27,7 +24,9 @@ struct Case {
     std::vector<TitleSegment> expected;
 };
 
-void PrintTo(const Case& c, std::ostream* out) { *out << c.name; }
+void PrintTo(const Case& c, std::ostream* out) {
+    *out << c.name;
+}
 
 class StatusTitleCases : public ::testing::TestWithParam<Case> {};
 

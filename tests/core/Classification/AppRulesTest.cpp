@@ -6,6 +6,7 @@
 #include <string>
 
 #include "ClassificationPrinters.h"
+#include "Platform/AppRoles.h"
 #include "TextCase.h"
 
 namespace larkspan {
@@ -96,6 +97,24 @@ TEST(AppRules, BundleTableRowsInOrderArePrefixesCaseSensitive) {
     EXPECT_EQ(classifyByBundleID("com.apple.TVRemote"), (ClassificationResult{16, 0.99}));
     EXPECT_EQ(classifyByBundleID(""), nullopt);
     EXPECT_EQ(classifyByBundleID("org.gnome.Nautilus"), nullopt);
+}
+
+TEST(AppRules, RoleIdentifiersClassifyLikeTheBundleRowOfTheirRole) {
+    const std::pair<std::string_view, std::string_view> roles[] = {
+        {app_role::terminal, "com.apple.Terminal"},
+        {app_role::mail, "com.apple.mail"},
+        {app_role::calendar, "com.apple.iCal"},
+        {app_role::tasks, "com.apple.reminders"},
+        {app_role::notes, "com.apple.Notes"},
+        {app_role::music, "com.apple.Music"},
+        {app_role::video, "com.apple.TV"},
+        {app_role::settings, "com.apple.systempreferences"},
+        {app_role::monitor, "com.apple.ActivityMonitor"},
+        {app_role::logs, "com.apple.Console"},
+        {app_role::files, "com.apple.finder"},
+        {app_role::photos, "com.apple.Photos"}};
+    for (const auto& [role, row] : roles)
+        EXPECT_EQ(classifyByBundleID(role), classifyByBundleID(row)) << role;
 }
 
 struct NameGroup {

@@ -44,7 +44,7 @@ TEST_F(ActivityQueries, RecordsRoundTripWithFractionsAndAbsentFields) {
     EXPECT_EQ(db.fetchActivity(bare.id), bare);
     EXPECT_EQ(db.fetchActivity(bare.id + 1), std::nullopt);
 
-    // Times written as statement text read back as the same 64-bit floats.
+    // Times read back as the same 64-bit floats.
     db.updateActivityEnd(full.id, 1700000000.1 + 0.2, 12);
     EXPECT_EQ(db.fetchActivity(full.id)->endTime, 1700000000.1 + 0.2);
     EXPECT_EQ(db.fetchActivity(full.id)->durationSeconds, 12);

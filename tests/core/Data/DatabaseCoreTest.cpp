@@ -3,13 +3,16 @@
 #include <fstream>
 #include <random>
 
+#include "Classification/CategoryEngine.h"
 #include "Data/Database.h"
+#include "Platform/AppRoles.h"
 #include "SqliteFile.h"
 #include "TempDir.h"
 
 namespace larkspan {
 namespace {
 
+using namespace std::string_literals;
 using test::SqliteFile;
 using test::TempDir;
 
@@ -94,6 +97,65 @@ TEST(DatabaseCore, OriginalActivitiesTableGainsManualAndNotesColumns) {
     const auto id = db.insertActivity(manual);
     manual.id = id;
     EXPECT_EQ(db.fetchActivity(id), manual);
+}
+
+TEST(DatabaseCore, BorrowedIdentifiersBecomeRoleIdentifiersAndTheirRulesStillDecide) {
+    TempDir dir;
+    { Database fresh(dir / "tracker.db"); }
+    {
+        // A database as earlier builds left it: no data step done yet.
+        SqliteFile raw(dir / "tracker.db");
+        raw.exec(
+            "PRAGMA user_version = 0;"
+            "INSERT INTO activities (app_name, bundle_id, start_time) VALUES ('GNOME Terminal', "
+            "'com.apple.Terminal', 1), ('xterm', 'com.apple.Terminal', 2), ('Firefox', "
+            "'org.mozilla.firefox', 3);"
+            "INSERT INTO learned_rules (rule_type, rule_key, category_id) VALUES ('bundle_id', "
+            "'com.apple.Terminal', 11), ('app_name', 'com.apple.Terminal', 12), ('bundle_id', "
+            "'com.apple.finder', 4), ('bundle_id', 'org.larkspan.role.files', 10);");
+    }
+    Database db(dir / "tracker.db");
+    SqliteFile raw(dir / "tracker.db");
+    EXPECT_EQ(raw.text("SELECT group_concat(bundle_id, ' ') FROM activities"),
+              "org.larkspan.role.terminal org.larkspan.role.terminal org.mozilla.firefox");
+    // Only "bundle_id" rules are renamed; a rule already under the role id is the later answer.
+    EXPECT_EQ(raw.text("SELECT group_concat(rule_type || ' ' || rule_key || ' ' || category_id, ', ') FROM "
+                       "(SELECT * FROM learned_rules ORDER BY id)"),
+              "bundle_id org.larkspan.role.terminal 11, app_name com.apple.Terminal 12, "
+              "bundle_id org.larkspan.role.files 10");
+    EXPECT_EQ(raw.integer("PRAGMA user_version"), 1);
+
+    CategoryEngine engine;
+    engine.learnedRules = db.fetchLearnedRules();
+    EXPECT_EQ(
+        engine.classify("Konsole", std::string(app_role::terminal), std::nullopt, std::nullopt, std::nullopt),
+        (ClassificationResult{11, 0.99}));
+}
+
+// Every value is bound: texts that would break a statement written as text are stored verbatim.
+TEST(DatabaseCore, HostileTextsRoundTripVerbatimAndTheSchemaStays) {
+    TempDir dir;
+    Database db(dir / "tracker.db");
+    SqliteFile raw(dir / "tracker.db");
+    const std::string schema = raw.text("SELECT group_concat(sql, ';') FROM sqlite_master");
+    for (const std::string& text : {"it's O'Brien's ''quoted''"s, "'); DROP TABLE categories; --"s,
+                                    "emoji \U0001F9D1\u200D\U0001F4BB \xFF\xFE invalid \xC3("s}) {
+        ActivityRecord record;
+        record.appName = text;
+        const auto id = db.insertActivity(record);
+        db.updateActivityNotes(id, text);
+        EXPECT_EQ(db.fetchActivity(id)->notes, text);
+        db.saveLearnedRule("title", text, 4);
+        EXPECT_EQ(db.fetchLearnedRules().back().ruleKey, text);
+        Category category{0, "new " + text, "#123456", text, Productivity::unproductive, 1, false, 100};
+        db.insertCategory(category);
+        category.id = db.fetchCategories().back().id;
+        category.name = "renamed " + text;
+        db.updateCategory(category);
+        EXPECT_EQ(db.fetchCategories().back(), category);
+    }
+    EXPECT_EQ(raw.text("SELECT group_concat(sql, ';') FROM sqlite_master"), schema);
+    EXPECT_EQ(raw.integer("SELECT COUNT(*) FROM categories"), 21 + 3);
 }
 
 TEST(DatabaseCore, EmptiedCategoriesAreSeededAgainWithTheirIds) {

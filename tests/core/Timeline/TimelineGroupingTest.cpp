@@ -136,6 +136,8 @@ TEST(TimelineResources, GroupedByAppIsACaseSensitivePrefixTest) {
         {"com.mitchellh.ghostty", true},
         {"net.kovidgoyal.kitty", true},
         {"org.gnome.Terminal", false},
+        {"org.larkspan.role.terminal", true},
+        {"org.larkspan.role.files", false},
         {"", false},
     };
     for (const auto& [bundle, grouped] : cases)

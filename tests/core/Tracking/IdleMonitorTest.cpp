@@ -19,6 +19,9 @@ TEST(IdleMonitor, BrowsersAndMediaPlayersByPrefixGetFiveMinutesEverythingElseTwo
         {"com.spotify.client", 300.0},
         {"com.apple.Music", 300.0},
         {"com.apple.Mus", 120.0},
+        {"org.larkspan.role.video", 300.0},
+        {"org.larkspan.role.music", 300.0},
+        {"org.larkspan.role.terminal", 120.0},
         {"com.spotify", 120.0},
     };
     for (const auto& [bundleID, threshold] : cases) {
