@@ -8,7 +8,10 @@
 #include <memory>
 
 #include "App/AppDelegate.h"
+#include "App/StartAtLogin.h"
+#include "App/ui/CommandLine.h"
 #include "App/ui/QtAppPresenter.h"
+#include "App/ui/StartAtLoginController.h"
 #include "Data/Database.h"
 #include "Platform/Linux/AppIdentity.h"
 #include "Platform/Linux/CanberraSoundPlayer.h"
@@ -41,13 +44,20 @@ bool hasDisplay() {
 }  // namespace
 
 int main(int argc, char** argv) {
+    // --help, --version and --autostart need no display; Qt's own options wait for the application.
+    if (const auto status = answerCommandLine(argumentList(argc, argv), hasDisplay()))
+        return *status;
     if (!hasDisplay()) {
         std::fputs("Larkspan needs a graphical session: neither DISPLAY nor WAYLAND_DISPLAY is set.\n",
                    stderr);
         return 1;
     }
     QApplication app(argc, argv);
+    // The application name is the windows' WM_CLASS class, which the desktop entry's StartupWMClass names.
     QApplication::setApplicationName(QStringLiteral("Larkspan"));
+    QApplication::setDesktopFileName(QString::fromUtf8(kApplicationID.data(), kApplicationID.size()));
+    if (const auto status = answerCommandLine(QApplication::arguments(), false))
+        return *status;
     QApplication::setQuitOnLastWindowClosed(false);
 
     SingleInstance instance;
@@ -69,10 +79,16 @@ int main(int argc, char** argv) {
     SystemClock clock;
     QtRepeatingTimer timers;
     SettingsStore defaults;
+    StartAtLogin startAtLogin(autostartEntryPath(std::getenv), runningExecutable(), defaults);
+    startAtLogin.offerAtFirstLaunch(isInstalledExecutable(runningExecutable()), *notifier);
     CanberraSoundPlayer sounds;
     NotificationCenter notifications;
     SerialQueue monitorQueue(kMonitorQueueLabel);
     QtAppPresenter presenter;
+
+    auto& startAtLoginSwitch = StartAtLoginController::of(presenter.engine());
+    startAtLoginSwitch.setStartAtLogin(&startAtLogin, notifier.get());
+    presenter.tray().setStartAtLogin(&startAtLoginSwitch);
 
     auto delegate = std::make_shared<AppDelegate>(
         database, AppEnvironment{clock, *mainQueue, timers, defaults, sounds, *notifier, notifications,
