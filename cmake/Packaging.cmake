@@ -6,10 +6,12 @@ set(CPACK_PACKAGE_NAME larkspan)
 set(CPACK_PACKAGE_VENDOR "The Larkspan developers")
 set(CPACK_PACKAGE_CONTACT "The Larkspan developers <hello@larkspan.org>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "personal time tracker for the system tray")
-set(CPACK_PACKAGE_DESCRIPTION "Larkspan notices which application and window are in front and turns that into a
-timeline of activities with categories. Activities it is unsure of wait for one click, and the
-answer becomes a rule. A Pomodoro timer with a task list for each day sits beside the tracker.
-Nothing leaves the computer: everything is kept in one local database.")
+# The long description's lines stay under 80 characters, as dpkg shows them unwrapped.
+set(CPACK_PACKAGE_DESCRIPTION "Larkspan notices which application and window are in front and turns
+that into a timeline of activities with categories. Activities it is
+unsure of wait for one click, and the answer becomes a rule. A Pomodoro
+timer with a task list for each day sits beside the tracker. Nothing
+leaves the computer: everything is kept in one local database.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 
