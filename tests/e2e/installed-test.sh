@@ -63,13 +63,6 @@ entry="$XDG_CONFIG_HOME/autostart/$id.desktop"
 terminal=$(open_window kitty "~: make install")
 xdotool windowactivate --sync "$terminal"
 
-launch() {
-    "$larkspan" >>"$e2e_root/larkspan.log" 2>&1 &
-    tracker=$!
-    e2e_pids+=("$tracker")
-}
-rows() { db "SELECT count(*) FROM activities" 2>/dev/null || echo 0; }
-has_rows_above() { [ "$(rows)" -gt "$1" ]; }
 quit() {
     kill -TERM "$tracker"
     wait "$tracker" || fail "the installed tracker did not quit cleanly"
