@@ -6,8 +6,9 @@ SANITIZE_DIR ?= build-sanitize
 BENCH_DIR ?= build-bench
 JOBS ?= $(shell nproc)
 CMAKE_FLAGS ?=
+PREFIX ?= /usr/local
 
-.PHONY: all deps build run test test-sanitize bench tsan clean
+.PHONY: all deps build run test test-sanitize bench tsan install uninstall package clean
 
 all: build
 
@@ -20,6 +21,18 @@ build: deps
 
 run: build
 	$(BUILD_DIR)/src/larkspan
+
+# Installs under PREFIX (DESTDIR is honoured); `make install PREFIX=~/.local` needs no root.
+install: build
+	cmake --install $(BUILD_DIR) --prefix $(PREFIX)
+
+# Removes what the last install put in place; the user's data and settings stay.
+uninstall:
+	xargs -r -d '\n' rm -f -- <$(BUILD_DIR)/install_manifest.txt
+
+# build/larkspan_<version>_amd64.deb
+package: build
+	cd $(BUILD_DIR) && cpack -G DEB
 
 # The core tests once more under AddressSanitizer and UndefinedBehaviorSanitizer.
 test-sanitize: deps

@@ -8,9 +8,11 @@
 #include <memory>
 
 #include "App/AppDelegate.h"
-#include "App/ui/BrowserBridgeInstall.h"
+#include "App/StartAtLogin.h"
 #include "App/ui/BrowserBridgeStatusModel.h"
+#include "App/ui/CommandLine.h"
 #include "App/ui/QtAppPresenter.h"
+#include "App/ui/StartAtLoginController.h"
 #include "BrowserHost/BridgeProtocol.h"
 #include "Data/Database.h"
 #include "Platform/Linux/AppIdentity.h"
@@ -45,7 +47,8 @@ bool hasDisplay() {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (const auto status = runBrowserBridgeOption(argc, argv))
+    // The command line's options need no display; Qt's own options wait for the application.
+    if (const auto status = answerCommandLine(argumentList(argc, argv), hasDisplay()))
         return *status;
     if (!hasDisplay()) {
         std::fputs("Larkspan needs a graphical session: neither DISPLAY nor WAYLAND_DISPLAY is set.\n",
@@ -53,7 +56,11 @@ int main(int argc, char** argv) {
         return 1;
     }
     QApplication app(argc, argv);
+    // The application name is the windows' WM_CLASS class, which the desktop entry's StartupWMClass names.
     QApplication::setApplicationName(QStringLiteral("Larkspan"));
+    QApplication::setDesktopFileName(QString::fromUtf8(kApplicationID.data(), kApplicationID.size()));
+    if (const auto status = answerCommandLine(QApplication::arguments(), false))
+        return *status;
     QApplication::setQuitOnLastWindowClosed(false);
 
     SingleInstance instance;
@@ -76,6 +83,8 @@ int main(int argc, char** argv) {
     LinuxScriptRunner scripts(workspace, browserBridge);
     QtRepeatingTimer timers;
     SettingsStore defaults;
+    StartAtLogin startAtLogin(autostartEntryPath(std::getenv), runningExecutable(), defaults);
+    startAtLogin.offerAtFirstLaunch(isInstalledExecutable(runningExecutable()), *notifier);
     CanberraSoundPlayer sounds;
     NotificationCenter notifications;
     SerialQueue monitorQueue(kMonitorQueueLabel);
@@ -83,6 +92,10 @@ int main(int argc, char** argv) {
     BrowserBridgeStatusModel browserStatus(browserBridge, clock);
     BrowserBridgeStatusModel::share(&browserStatus);
     QtAppPresenter presenter;
+
+    auto& startAtLoginSwitch = StartAtLoginController::of(presenter.engine());
+    startAtLoginSwitch.setStartAtLogin(&startAtLogin, notifier.get());
+    presenter.tray().setStartAtLogin(&startAtLoginSwitch);
 
     auto delegate = std::make_shared<AppDelegate>(
         database, AppEnvironment{clock, *mainQueue, timers, defaults, sounds, *notifier, notifications,

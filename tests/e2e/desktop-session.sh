@@ -98,3 +98,12 @@ open_window() {
 db() {
     sqlite3 -batch -noheader "$XDG_DATA_HOME/Larkspan/tracker.db" "$@"
 }
+
+# launch: starts "$larkspan" in the background as $tracker; rows: the stored activities.
+launch() {
+    "$larkspan" >>"$e2e_root/larkspan.log" 2>&1 &
+    tracker=$!
+    e2e_pids+=("$tracker")
+}
+rows() { db "SELECT count(*) FROM activities" 2>/dev/null || echo 0; }
+has_rows_above() { [ "$(rows)" -gt "$1" ]; }

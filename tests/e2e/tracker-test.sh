@@ -34,14 +34,6 @@ terminal=$(open_window kitty "~/src: make test")
 mystery=$(open_window Mystery "what is this")
 xdotool windowactivate --sync "$editor"
 
-launch() {
-    "$larkspan" >>"$e2e_root/larkspan.log" 2>&1 &
-    tracker=$!
-    e2e_pids+=("$tracker")
-}
-rows() { db "SELECT count(*) FROM activities" 2>/dev/null || echo 0; }
-has_rows_above() { [ "$(rows)" -gt "$1" ]; }
-
 launch
 wait_until 10 has_rows_above 0 || fail "no activity stored 10 s after launch"
 

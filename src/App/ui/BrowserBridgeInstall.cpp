@@ -2,20 +2,12 @@
 
 #include <cstdio>
 #include <filesystem>
-#include <string_view>
 
 #include "Platform/Linux/BrowserHostManifests.h"
 
 namespace larkspan {
 
-std::optional<int> runBrowserBridgeOption(int argc, char** argv) {
-    if (argc != 2)
-        return std::nullopt;
-    const std::string_view option = argv[1];
-    const bool install = option == "--install-browser-bridge";
-    if (!install && option != "--uninstall-browser-bridge")
-        return std::nullopt;
-
+int changeBrowserBridge(bool install) {
     const auto folders = UserFolders::fromEnvironment();
     if (folders.home.empty()) {
         std::fputs("Larkspan: HOME is not set, so there is no place for the browsers' manifests.\n", stderr);

@@ -4,12 +4,9 @@
 // executable; `--uninstall-browser-bridge` removes them. Each says per browser what it did.
 #pragma once
 
-#include <optional>
-
 namespace larkspan {
 
-// The exit status when the command line is exactly one of the two options; nothing otherwise,
-// and the tracker starts as usual.
-std::optional<int> runBrowserBridgeOption(int argc, char** argv);
+// Installs (or removes) the manifests and says per browser what it did; the exit status.
+int changeBrowserBridge(bool install);
 
 }  // namespace larkspan

@@ -141,6 +141,12 @@ Rectangle {
                     font.pixelSize: 24
                     font.weight: Font.DemiBold
                 }
+                StartAtLoginSwitch {
+                    objectName: "startAtLogin"
+                    Layout.fillWidth: true
+                    visible: root.controller.shownTab === "Settings" && StartAtLoginController.available
+                    secondaryText: root.secondaryText
+                }
                 BrowserBridgeStatus {
                     objectName: "browserBridgeStatus"
                     Layout.fillWidth: true

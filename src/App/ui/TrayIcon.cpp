@@ -59,6 +59,30 @@ void TrayIcon::rebuildMenu() {
         if (!item.keyEquivalent.empty())
             action->setShortcut(QKeySequence(QStringLiteral("Ctrl+") + QString::fromStdString(item.keyEquivalent).toUpper()));
     }
+    addStartAtLogin();
+}
+
+void TrayIcon::setStartAtLogin(StartAtLoginController* controller) {
+    startAtLogin_ = controller;
+    rebuildMenu();
+}
+
+void TrayIcon::addStartAtLogin() {
+    if (!startAtLogin_ || !startAtLogin_->available())
+        return;
+    // Read again as the menu opens, so an entry removed by hand shows as off.
+    startAtLogin_->refresh();
+    const QList<QAction*> actions = menu_.actions();
+    QAction* before = nullptr;
+    for (QAction* action : actions)
+        if (action->isSeparator())
+            before = action;
+    auto* toggle = new QAction(QStringLiteral("Start Larkspan at login"), &menu_);
+    toggle->setCheckable(true);
+    toggle->setChecked(startAtLogin_->isOn());
+    connect(toggle, &QAction::triggered, startAtLogin_.data(), &StartAtLoginController::setOn);
+    menu_.insertAction(before, toggle);
+    menu_.insertSeparator(toggle);
 }
 
 void TrayIcon::showWhenHostExists() {

@@ -6,6 +6,7 @@
 
 #include <QMenu>
 #include <QObject>
+#include <QPointer>
 #include <QSystemTrayIcon>
 #include <QTimer>
 
@@ -14,6 +15,7 @@
 
 #include "App/StatusTitle.h"
 #include "App/TrayMenu.h"
+#include "App/ui/StartAtLoginController.h"
 #include "App/ui/TrayIconPainter.h"
 
 namespace larkspan {
@@ -31,6 +33,8 @@ public:
 
     // Where the menu's entries come from; asked each time the menu opens.
     void setMenuItems(std::function<std::vector<MenuItem>()> items);
+    // Adds the checkable "Start Larkspan at login" entry above the menu's last part.
+    void setStartAtLogin(StartAtLoginController* controller);
 
 signals:
     void popoverToggleRequested();
@@ -41,6 +45,7 @@ signals:
 
 private:
     void rebuildMenu();
+    void addStartAtLogin();
     void showWhenHostExists();
 
     QSystemTrayIcon icon_;
@@ -48,6 +53,7 @@ private:
     QTimer hostWatch_;
     TrayIconContent shownContent_;
     std::function<std::vector<MenuItem>()> menuItems_;
+    QPointer<StartAtLoginController> startAtLogin_;
     bool reportedNoHost_ = false;
 };
 

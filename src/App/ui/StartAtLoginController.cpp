@@ -1,0 +1,50 @@
+#include "App/ui/StartAtLoginController.h"
+
+#include <QQmlEngine>
+
+namespace larkspan {
+
+StartAtLoginController::StartAtLoginController(QObject* parent) : QObject(parent) {}
+
+StartAtLoginController& StartAtLoginController::of(QQmlEngine& engine) {
+    auto* controller = engine.findChild<StartAtLoginController*>(QString(), Qt::FindDirectChildrenOnly);
+    if (!controller) {
+        controller = new StartAtLoginController(&engine);
+        // The engine's QObject tree deletes it; QML must not delete it a second time.
+        QJSEngine::setObjectOwnership(controller, QJSEngine::CppOwnership);
+    }
+    return *controller;
+}
+
+StartAtLoginController* StartAtLoginController::create(QQmlEngine* engine, QJSEngine*) {
+    return &of(*engine);
+}
+
+void StartAtLoginController::setStartAtLogin(StartAtLogin* startAtLogin, Notifier* notifier) {
+    startAtLogin_ = startAtLogin;
+    notifier_ = notifier;
+    problem_.clear();
+    refresh();
+    emit changed();
+}
+
+void StartAtLoginController::refresh() {
+    const bool on = startAtLogin_ && startAtLogin_->isOn();
+    if (on == on_)
+        return;
+    on_ = on;
+    emit changed();
+}
+
+void StartAtLoginController::setOn(bool on) {
+    if (!startAtLogin_)
+        return;
+    const auto why = startAtLogin_->set(on);
+    problem_ = why ? QString::fromStdString(*why) : QString();
+    if (why && notifier_)
+        notifier_->notify(std::string(StartAtLogin::notificationID), "Start Larkspan at login", *why);
+    on_ = startAtLogin_->isOn();
+    emit changed();
+}
+
+}  // namespace larkspan
