@@ -17,9 +17,12 @@
 #include "Platform/Linux/SessionEnvironment.h"
 #include "Platform/Linux/X11WindowHints.h"
 #include "Platform/Linux/X11Workspace.h"
+#include "Platform/PrivateFiles.h"
 #include "Platform/Qt/DBusNotifier.h"
+#include "Platform/Qt/OrderlyExit.h"
 #include "Platform/Qt/QtMainQueue.h"
 #include "Platform/Qt/QtRepeatingTimer.h"
+#include "Platform/Qt/SessionBus.h"
 #include "Platform/Qt/SettingsStore.h"
 #include "Platform/Qt/SingleInstance.h"
 #include "Platform/Qt/TerminationSignals.h"
@@ -46,9 +49,13 @@ int main(int argc, char** argv) {
                    stderr);
         return 1;
     }
+    keepNewFilesPrivate();
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Larkspan"));
     QApplication::setQuitOnLastWindowClosed(false);
+    TerminationSignals terminationSignals;
+    QObject::connect(&terminationSignals, &TerminationSignals::terminationRequested, &app,
+                     &QApplication::quit);
 
     SingleInstance instance;
     if (!instance.claim()) {
@@ -82,7 +89,8 @@ int main(int argc, char** argv) {
     delegate->start();
     presenter.attach(database, *delegate->sessionManager(), *delegate->pomodoroTimer());
     presenter.setOpenDashboard([&delegate] { delegate->trayMenu()->menuOpenDashboard(); });
-    presenter.openDashboardWithoutTray();
+    // Qt asks the bus whether a tray exists; tracking runs already and must not wait for it.
+    SessionBus::whenAnswered(&app, [&presenter] { presenter.openDashboardWithoutTray(); });
     if (const auto* x11 = app.nativeInterface<QNativeInterface::QX11Application>()) {
         xcb_connection_t* connection = x11->connection();
         presenter.setFloatingWindowHints(
@@ -98,11 +106,7 @@ int main(int argc, char** argv) {
     QObject::connect(&tray, &TrayIcon::quitRequested, &app, &QApplication::quit);
     QObject::connect(&instance, &SingleInstance::activationRequested,
                      [&delegate] { delegate->openDashboard(); });
-    TerminationSignals terminationSignals;
-    QObject::connect(&terminationSignals, &TerminationSignals::terminationRequested, &app,
-                     &QApplication::quit);
-
-    const int status = QApplication::exec();
-    delegate->stop();
-    return status;
+    OrderlyExit orderlyExit([&delegate] { delegate->sessionManager()->closeOpenSession(); },
+                            [&delegate] { delegate->stop(); });
+    return QApplication::exec();
 }

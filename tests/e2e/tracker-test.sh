@@ -26,19 +26,13 @@ StartupWMClass=kitty
 ENTRY
 
 # A title with quotes, an emoji and 300 characters in all.
-editor_title="main.cpp — \"Larkspan\" 'tracker' 🚀 "
-while [ "$(printf '%s' "$editor_title" | wc -m)" -lt 300 ]; do editor_title+="x"; done
+editor_title=$(hostile_title "main.cpp — \"Larkspan\" 'tracker' 🚀 " 300)
 editor=$(open_window Code "$editor_title")
 terminal=$(open_window kitty "~/src: make test")
 # No desktop entry and no rule: classified with low confidence, so it needs the user's approval.
 mystery=$(open_window Mystery "what is this")
 xdotool windowactivate --sync "$editor"
 
-launch() {
-    "$larkspan" >>"$e2e_root/larkspan.log" 2>&1 &
-    tracker=$!
-    e2e_pids+=("$tracker")
-}
 rows() { db "SELECT count(*) FROM activities" 2>/dev/null || echo 0; }
 has_rows_above() { [ "$(rows)" -gt "$1" ]; }
 

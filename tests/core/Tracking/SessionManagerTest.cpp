@@ -158,26 +158,72 @@ TEST_F(SessionManagerTest, PublishedValuesArriveThroughTheMainQueueSessionBefore
     EXPECT_TRUE(session.needsApproval);
     EXPECT_FALSE(session.isApproved);
 
-    // A confident session posts itself only.
+    // A confident session posts the count of the store, resynced at the close, then itself.
     manager->process(kKitty);
-    EXPECT_EQ(mainQueue.pendingCount(), 1u);
+    EXPECT_EQ(mainQueue.pendingCount(), 2u);
 }
 
-TEST_F(SessionManagerTest, PublishedCountRunsAheadOfTheStoresUntilRefreshed) {
+TEST_F(SessionManagerTest, PublishedCountRunsAheadOfTheStoresOnlyUntilTheSessionCloses) {
     after(0, kMystery);
     EXPECT_EQ(manager->pendingApprovalCount.get(), 1);
     EXPECT_EQ(db.pendingApprovalCount(), 0);  // younger than 30 s
     after(30, kMystery);
     EXPECT_EQ(db.pendingApprovalCount(), 1);  // the heartbeat made it 30 s long
-    // Another asking session, deleted as too short: published 2, stored 1.
+    // Another asking session runs ahead, until it is deleted as too short.
     after(1, app("Qzx"));
-    after(2, kKitty);
     EXPECT_EQ(manager->pendingApprovalCount.get(), 2);
-    EXPECT_EQ(db.pendingApprovalCount(), 1);
-    manager->refreshApprovalCount();
-    EXPECT_EQ(manager->pendingApprovalCount.get(), 2);  // posted, not yet run
-    mainQueue.drain();
+    after(2, kKitty);
     EXPECT_EQ(manager->pendingApprovalCount.get(), 1);
+    EXPECT_EQ(db.pendingApprovalCount(), 1);
+}
+
+TEST_F(SessionManagerTest, ClosingTheOpenSessionGivesItsTrueEndOrDeletesItWhenShort) {
+    after(0, kMystery);
+    timers.advance(20);
+    manager->closeOpenSession();
+    mainQueue.drain();
+    ASSERT_EQ(rows().size(), 1u);
+    EXPECT_EQ(rows()[0].endTime, t0 + 20);
+    EXPECT_EQ(rows()[0].durationSeconds, 20);
+    EXPECT_EQ(manager->pendingApprovalCount.get(), 0);
+    // The next sample opens a new session, even one equal to the closed one; 2 s of it leave no row.
+    after(0, kMystery);
+    ASSERT_EQ(rows().size(), 2u);
+    timers.advance(2);
+    manager->closeOpenSession();
+    EXPECT_EQ(rows().size(), 1u);
+}
+
+TEST_F(SessionManagerTest, RefusedRowsAreRetriedAtTheHeartbeatOrStoredWholeAtTheirClose) {
+    std::vector<std::string> failures;
+    manager->onWriteFailure = [&failures](const std::string& message) { failures.push_back(message); };
+    db.exec("PRAGMA query_only=1");
+    after(0, kKitty);
+    EXPECT_TRUE(rows().empty());
+    EXPECT_TRUE(sessions.empty());
+    ASSERT_EQ(failures.size(), 1u);
+    EXPECT_NE(failures[0].find("readonly"), std::string::npos) << failures[0];
+    timers.advance(30);  // still refused
+    EXPECT_EQ(failures.size(), 2u);
+    db.exec("PRAGMA query_only=0");
+    timers.advance(30);
+    mainQueue.drain();
+    ASSERT_EQ(rows().size(), 1u);
+    EXPECT_EQ(rows()[0].startTime, t0);
+    EXPECT_EQ(rows()[0].durationSeconds, 60);
+    ASSERT_EQ(sessions.size(), 1u);
+    EXPECT_EQ(sessions[0]->id, rows()[0].id);
+
+    // Refused from start to end: the row is written whole when the session closes.
+    db.exec("PRAGMA query_only=1");
+    after(0, kMystery);
+    db.exec("PRAGMA query_only=0");
+    after(12, kKitty);
+    const auto stored = rows();
+    ASSERT_EQ(stored.size(), 3u);
+    EXPECT_EQ(stored[1].appName, "Zqx");
+    EXPECT_EQ(stored[1].startTime, t0 + 60);
+    EXPECT_EQ(stored[1].durationSeconds, 12);
 }
 
 TEST_F(SessionManagerTest, SampleThatChangesNothingTouchesNeitherStoreNorEngine) {
@@ -194,12 +240,14 @@ TEST_F(SessionManagerTest, SampleThatChangesNothingTouchesNeitherStoreNorEngine)
     EXPECT_EQ(engine.calls(), calls);
     EXPECT_EQ(mainQueue.pendingCount(), 0u);
 
-    // A change costs one write to close and one to open: the catalogue is not read per sample.
+    // A change costs a write to close, the pending count and a write to open: the catalogue is not
+    // read per sample.
     after(6, kMystery);
     const auto statements = trace.take();
-    ASSERT_EQ(statements.size(), 2u);
+    ASSERT_EQ(statements.size(), 3u);
     EXPECT_TRUE(statements[0].starts_with("UPDATE activities")) << statements[0];
-    EXPECT_TRUE(statements[1].starts_with("INSERT INTO activities")) << statements[1];
+    EXPECT_TRUE(statements[1].starts_with("SELECT COUNT(*)")) << statements[1];
+    EXPECT_TRUE(statements[2].starts_with("INSERT INTO activities")) << statements[2];
     EXPECT_EQ(engine.calls(), calls + 1);
 }
 
