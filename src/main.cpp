@@ -1,6 +1,7 @@
 // Larkspan's entry: one tracker per session, the store, the desktop behind the seams, the delegate
 // that wires them, and the Qt event loop until the menu's Quit or SIGTERM/SIGINT.
 #include <QtGui/qguiapplication_platform.h>
+#include <QAccessible>
 #include <QApplication>
 
 #include <cstdio>
@@ -87,10 +88,16 @@ int main(int argc, char** argv) {
 
     // Launching draws the first title, so the tray icon never shows blank.
     delegate->start();
-    presenter.attach(database, *delegate->sessionManager(), *delegate->pomodoroTimer());
+    // Qt's accessibility bridge (made for the application's root object and at the first QML item)
+    // and its tray check ask the session bus synchronously: they wait for the bus to answer, and
+    // tracking does not wait for them. So the loop below is QCoreApplication's, which leaves the
+    // root object to this.
+    SessionBus::whenAnswered(&app, [&] {
+        QAccessible::setRootObject(&app);
+        presenter.attach(database, *delegate->sessionManager(), *delegate->pomodoroTimer());
+        presenter.openDashboardWithoutTray();
+    });
     presenter.setOpenDashboard([&delegate] { delegate->trayMenu()->menuOpenDashboard(); });
-    // Qt asks the bus whether a tray exists; tracking runs already and must not wait for it.
-    SessionBus::whenAnswered(&app, [&presenter] { presenter.openDashboardWithoutTray(); });
     if (const auto* x11 = app.nativeInterface<QNativeInterface::QX11Application>()) {
         xcb_connection_t* connection = x11->connection();
         presenter.setFloatingWindowHints(
@@ -108,5 +115,5 @@ int main(int argc, char** argv) {
                      [&delegate] { delegate->openDashboard(); });
     OrderlyExit orderlyExit([&delegate] { delegate->sessionManager()->closeOpenSession(); },
                             [&delegate] { delegate->stop(); });
-    return QApplication::exec();
+    return QCoreApplication::exec();
 }

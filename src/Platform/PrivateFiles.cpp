@@ -12,12 +12,12 @@ void restrictToOwner(const std::filesystem::path& folder, std::initializer_list<
     namespace fs = std::filesystem;
     std::error_code ignored;
     fs::create_directories(folder, ignored);
-    fs::permissions(folder, fs::perms::owner_all, fs::perm_options::replace, ignored);
+    // Only taken away: a file the user made read-only stays so.
+    const auto others = fs::perms::group_all | fs::perms::others_all;
+    fs::permissions(folder, others, fs::perm_options::remove, ignored);
     for (const auto name : files) {
-        const fs::path file = folder / name;
-        if (fs::exists(file, ignored))
-            fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write, fs::perm_options::replace,
-                            ignored);
+        if (const fs::path file = folder / name; fs::exists(file, ignored))
+            fs::permissions(file, others, fs::perm_options::remove, ignored);
     }
 }
 

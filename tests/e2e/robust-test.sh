@@ -27,7 +27,8 @@ rows_of() { db "SELECT count(*) FROM activities WHERE app_name = '$1'"; }
 # A frozen bus holds nothing up: the first row is stored within 2 s of launch.
 kill -STOP "$bus_pid"
 start_tracker
-wait_until 2 test "$(db 'SELECT count(*) FROM activities' 2>/dev/null || echo 0)" -gt 0 ||
+any_row() { [ "$(db 'SELECT count(*) FROM activities' 2>/dev/null || echo 0)" -gt 0 ]; }
+wait_until 2 any_row ||
     { kill -CONT "$bus_pid"; fail "no row 2 s after launch with a frozen bus"; }
 kill -CONT "$bus_pid"
 [ "$(db 'SELECT window_title FROM activities LIMIT 1')" = "$hostile" ] || fail "the hostile title changed"
@@ -50,7 +51,8 @@ ended_near "$(last_row)" "$quit_at" || fail "row not ended at the tray quit: $(l
 
 # 2 s in another window, then SIGTERM: that row is gone.
 start_tracker
-wait_until 5 test "$(rows_of Hostile)" -gt 1 || fail "no row after the relaunch"
+second_row() { [ "$(rows_of Hostile)" -gt 1 ]; }
+wait_until 5 second_row || fail "no row after the relaunch"
 xdotool windowactivate --sync "$terminal"
 sleep 2
 kill -TERM "$tracker"
