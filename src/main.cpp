@@ -1,6 +1,7 @@
 // Larkspan's entry: one tracker per session, the store, the desktop behind the seams, the delegate
 // that wires them, and the Qt event loop until the menu's Quit or SIGTERM/SIGINT.
 #include <QtGui/qguiapplication_platform.h>
+#include <QAccessible>
 #include <QApplication>
 
 #include <cstdio>
@@ -23,9 +24,12 @@
 #include "Platform/Linux/SessionEnvironment.h"
 #include "Platform/Linux/X11WindowHints.h"
 #include "Platform/Linux/X11Workspace.h"
+#include "Platform/PrivateFiles.h"
 #include "Platform/Qt/DBusNotifier.h"
+#include "Platform/Qt/OrderlyExit.h"
 #include "Platform/Qt/QtMainQueue.h"
 #include "Platform/Qt/QtRepeatingTimer.h"
+#include "Platform/Qt/SessionBus.h"
 #include "Platform/Qt/SettingsStore.h"
 #include "Platform/Qt/SingleInstance.h"
 #include "Platform/Qt/TerminationSignals.h"
@@ -55,6 +59,7 @@ int main(int argc, char** argv) {
                    stderr);
         return 1;
     }
+    keepNewFilesPrivate();
     QApplication app(argc, argv);
     // The application name is the windows' WM_CLASS class, which the desktop entry's StartupWMClass names.
     QApplication::setApplicationName(QStringLiteral("Larkspan"));
@@ -62,6 +67,9 @@ int main(int argc, char** argv) {
     if (const auto status = answerCommandLine(QApplication::arguments(), false))
         return *status;
     QApplication::setQuitOnLastWindowClosed(false);
+    TerminationSignals terminationSignals;
+    QObject::connect(&terminationSignals, &TerminationSignals::terminationRequested, &app,
+                     &QApplication::quit);
 
     SingleInstance instance;
     if (!instance.claim()) {
@@ -103,9 +111,16 @@ int main(int argc, char** argv) {
 
     // Launching draws the first title, so the tray icon never shows blank.
     delegate->start();
-    presenter.attach(database, *delegate->sessionManager(), *delegate->pomodoroTimer());
+    // Qt's accessibility bridge (made for the application's root object and at the first QML item)
+    // and its tray check ask the session bus synchronously: they wait for the bus to answer, and
+    // tracking does not wait for them. So the loop below is QCoreApplication's, which leaves the
+    // root object to this.
+    SessionBus::whenAnswered(&app, [&] {
+        QAccessible::setRootObject(&app);
+        presenter.attach(database, *delegate->sessionManager(), *delegate->pomodoroTimer());
+        presenter.openDashboardWithoutTray();
+    });
     presenter.setOpenDashboard([&delegate] { delegate->trayMenu()->menuOpenDashboard(); });
-    presenter.openDashboardWithoutTray();
     if (const auto* x11 = app.nativeInterface<QNativeInterface::QX11Application>()) {
         xcb_connection_t* connection = x11->connection();
         presenter.setFloatingWindowHints(
@@ -121,11 +136,7 @@ int main(int argc, char** argv) {
     QObject::connect(&tray, &TrayIcon::quitRequested, &app, &QApplication::quit);
     QObject::connect(&instance, &SingleInstance::activationRequested,
                      [&delegate] { delegate->openDashboard(); });
-    TerminationSignals terminationSignals;
-    QObject::connect(&terminationSignals, &TerminationSignals::terminationRequested, &app,
-                     &QApplication::quit);
-
-    const int status = QApplication::exec();
-    delegate->stop();
-    return status;
+    OrderlyExit orderlyExit([&delegate] { delegate->sessionManager()->closeOpenSession(); },
+                            [&delegate] { delegate->stop(); });
+    return QCoreApplication::exec();
 }

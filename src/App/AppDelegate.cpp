@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdio>
 #include <random>
 #include <utility>
@@ -16,6 +17,9 @@ constexpr std::size_t kPopupCategoryCount = 6;
 // The idle answer looks for the away row from a minute before the absence began.
 constexpr double kIdleAnswerLeadSeconds = 60.0;
 constexpr double kIdlePromptThresholdSeconds = 300.0;
+
+// While the store refuses writes, each new report replaces the last banner.
+constexpr const char* kWriteFailureNotificationID = "store-write-failure";
 
 // A random (version 4) UUID in its usual text form.
 std::string makeUUID() {
@@ -51,6 +55,10 @@ void AppDelegate::launchApp() {
         return;
     sessionManager_ =
         SessionManager::create(database_, categoryEngine_, env_.clock, env_.mainQueue, env_.timers);
+    sessionManager_->onWriteFailure = [weak = weak_from_this()](const std::string& message) {
+        if (auto self = weak.lock())
+            self->reportWriteFailure(message);
+    };
     pomodoroTimer_ = std::make_unique<PomodoroTimer>(env_.clock, env_.defaults, env_.sounds, env_.timers);
     pomodoroTimer_->onSessionComplete = [weak = weak_from_this()](PomodoroMode mode,
                                                                   std::optional<std::int64_t> task) {
@@ -70,6 +78,8 @@ void AppDelegate::launchApp() {
 
 void AppDelegate::stop() {
     activityMonitor_->stop();
+    if (sessionManager_)
+        sessionManager_->closeOpenSession();
 }
 
 void AppDelegate::openDashboard() {
@@ -131,6 +141,18 @@ void AppDelegate::sendPomoNotification(PomodoroMode mode) {
             env_.notifier.notify(makeUUID(), "\U0001F33F Long break over", "Recharged and ready to go!");
             break;
     }
+}
+
+void AppDelegate::reportWriteFailure(const std::string& message) {
+    const Date now = env_.clock.now();
+    // Either way round: a clock set back must not silence the report for the hours it jumped.
+    if (lastWriteFailureReport_ && std::fabs(now - *lastWriteFailureReport_) < writeFailureReportInterval)
+        return;
+    lastWriteFailureReport_ = now;
+    const std::string text = "Larkspan cannot save your activity: " + message;
+    std::fprintf(stderr, "%s\n", text.c_str());
+    env_.notifier.notify(kWriteFailureNotificationID, text,
+                         "Tracking goes on and saves again by itself once the database can be written.");
 }
 
 bool AppDelegate::canShowPopup() const {

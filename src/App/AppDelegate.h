@@ -63,8 +63,7 @@ public:
     void start();
     // Builds and starts everything, once.
     void launchApp();
-    // Stops sampling before the process ends. Nothing is written: the open session keeps the end its
-    // last heartbeat stored.
+    // Stops sampling and closes the open session with its true end, before the process ends.
     void stop();
 
     void openDashboard();
@@ -84,12 +83,15 @@ public:
 
     static constexpr double minPopupInterval = 600.0;
     static constexpr double accessibilityPromptInterval = 604800.0;  // 7 days
+    static constexpr double writeFailureReportInterval = 3600.0;     // seconds
 
 private:
     void startTracking();
     void requestAccessibilityPermission();
     void onSessionComplete(PomodoroMode mode, std::optional<std::int64_t> taskID);
     void sendPomoNotification(PomodoroMode mode);
+    // On standard error and as a banner, at most once per writeFailureReportInterval.
+    void reportWriteFailure(const std::string& message);
 
     Database& database_;
     AppEnvironment env_;
@@ -100,6 +102,7 @@ private:
     std::unique_ptr<TrayMenu> trayMenu_;
     std::vector<Subscription> cancellables_;
     Date lastPopupTime_ = -std::numeric_limits<double>::infinity();  // the distant past
+    std::optional<Date> lastWriteFailureReport_;
 };
 
 }  // namespace larkspan

@@ -12,9 +12,12 @@
 #include <vector>
 
 #include "Data/Database.h"
+#include "Platform/PrivateFiles.h"
 
 namespace larkspan {
 namespace {
+
+constexpr int kBusyTimeoutMilliseconds = 5000;
 
 // SQLite must run in serialized mode before the first connection opens. The library's default is
 // usually serialized already; sqlite3_config fails harmlessly when SQLite has been initialised by
@@ -54,6 +57,9 @@ Database* openSharedDatabase() {
     std::string failure;
     try {
         const std::filesystem::path folder = userDataFolder() / "Larkspan";
+        // SQLite gives the -wal and -shm files the database's own mode, so tightening it first
+        // keeps all three private.
+        restrictToOwner(folder, {"tracker.db", "tracker.db-wal", "tracker.db-shm"});
         std::filesystem::create_directories(folder);
         return new Database(folder / "tracker.db");
     } catch (const std::exception& error) {
@@ -95,6 +101,10 @@ void Database::openDB(const std::filesystem::path& path) {
     if (sqlite3_db_mutex(db_.get()) == nullptr) {
         throw DBError(DBError::Kind::openFailed, "SQLite is not in serialized threading mode");
     }
+    // A backup tool or a sqlite3 shell may hold the write lock for a moment: wait for it rather than
+    // fail the write. The waiting thread is the store queue's, with its caller blocked behind it, so
+    // the bound keeps a main-thread write from stalling the interface for longer than this.
+    sqlite3_busy_timeout(db_.get(), kBusyTimeoutMilliseconds);
 }
 
 bool Database::exec(const std::string& sql) {

@@ -41,16 +41,14 @@ void SessionManager::process(const RawActivity& activity) {
         return;
 
     const Date now = clock_.now();
-    if (currentActivity_ && sessionID_ > 0)
+    if (currentActivity_)
         closeSession(now);
 
     currentActivity_ = activity;
     sessionStartTime_ = now;
-    sessionID_ = -1;
 
     if (activity.isIdle) {
-        auto record = ActivityRecord::idle(sessionStartTime_, storableCategory(category_id::awayBreak));
-        insertSession(record);
+        insertSession(ActivityRecord::idle(sessionStartTime_, storableCategory(category_id::awayBreak)));
         return;
     }
 
@@ -67,11 +65,61 @@ void SessionManager::process(const RawActivity& activity) {
     record.needsApproval = result.needsApproval();
     record.isApproved = !record.needsApproval;
     record.startTime = sessionStartTime_;
-    if (!insertSession(record))
+    insertSession(std::move(record));
+}
+
+void SessionManager::closeOpenSession() {
+    if (currentActivity_)
+        closeSession(clock_.now());
+    currentActivity_.reset();
+}
+
+void SessionManager::closeSession(Date now) {
+    const std::int64_t duration = wholeSecondsBetween(sessionStartTime_, now);
+    const bool tooShort = minSessionDuration > static_cast<double>(duration);
+    if (sessionID_ > 0 && tooShort) {
+        try {
+            db_.run("DELETE FROM activities WHERE id=?", sessionID_);
+        } catch (const std::exception&) {
+            // The short row stays with what its last heartbeat wrote.
+        }
+    } else if (sessionID_ > 0) {
+        db_.updateActivityEnd(sessionID_, now, duration);
+    } else if (unstored_ && !tooShort) {
+        unstored_->endTime = now;
+        unstored_->durationSeconds = duration;
+        try {
+            db_.insertActivity(*unstored_);
+        } catch (const std::exception& error) {
+            if (onWriteFailure)
+                onWriteFailure(error.what());
+        }
+    }
+    sessionID_ = -1;
+    unstored_.reset();
+    // A row deleted as too short may have been counted as pending when it was inserted.
+    refreshApprovalCount();
+}
+
+void SessionManager::insertSession(ActivityRecord record) {
+    try {
+        sessionID_ = db_.insertActivity(record);
+    } catch (const std::exception& error) {
+        unstored_ = std::move(record);
+        if (onWriteFailure)
+            onWriteFailure(error.what());
         return;
-    if (record.needsApproval) {
+    }
+    unstored_.reset();
+    record.id = sessionID_;
+    std::weak_ptr<SessionManager> weak = weak_from_this();
+    const bool pending = record.needsApproval;
+    mainQueue_.post([weak, record = std::move(record)] {
+        if (auto self = weak.lock())
+            self->currentSession.set(record);
+    });
+    if (pending) {
         // Behind the session's own post, so subscribers see the session first.
-        std::weak_ptr<SessionManager> weak = weak_from_this();
         mainQueue_.post([weak] {
             if (auto self = weak.lock())
                 self->pendingApprovalCount.set(self->pendingApprovalCount.get() + 1);
@@ -79,39 +127,17 @@ void SessionManager::process(const RawActivity& activity) {
     }
 }
 
-void SessionManager::closeSession(Date now) {
-    const std::int64_t duration = wholeSecondsBetween(sessionStartTime_, now);
-    if (minSessionDuration > static_cast<double>(duration)) {
-        try {
-            db_.run("DELETE FROM activities WHERE id=?", sessionID_);
-        } catch (const std::exception&) {
-            // The short row stays with what its last heartbeat wrote.
-        }
-        return;
-    }
-    db_.updateActivityEnd(sessionID_, now, duration);
-}
-
-bool SessionManager::insertSession(ActivityRecord& record) {
-    try {
-        sessionID_ = db_.insertActivity(record);
-    } catch (const std::exception&) {
-        return false;
-    }
-    record.id = sessionID_;
-    std::weak_ptr<SessionManager> weak = weak_from_this();
-    mainQueue_.post([weak, record] {
-        if (auto self = weak.lock())
-            self->currentSession.set(record);
-    });
-    return true;
-}
-
 void SessionManager::heartbeat() {
-    if (sessionID_ <= 0)
-        return;
     const Date now = clock_.now();
-    db_.updateActivityEnd(sessionID_, now, wholeSecondsBetween(sessionStartTime_, now));
+    const std::int64_t duration = wholeSecondsBetween(sessionStartTime_, now);
+    if (sessionID_ > 0) {
+        db_.updateActivityEnd(sessionID_, now, duration);
+    } else if (unstored_) {
+        ActivityRecord retry = *unstored_;
+        retry.endTime = now;
+        retry.durationSeconds = duration;
+        insertSession(std::move(retry));
+    }
 }
 
 std::int64_t SessionManager::storableCategory(std::int64_t categoryID) const {

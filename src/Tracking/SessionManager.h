@@ -3,16 +3,17 @@
 // One session is open at a time: the sample that opened it, when it began and the row it was stored
 // under. The row is inserted the moment the session opens, so a running session is already in the
 // store; a 30-second heartbeat keeps its end time fresh, and a session that ends under 5 whole
-// seconds is deleted again. There is no final write: at the end of the process the open row keeps
-// what its last heartbeat wrote.
+// seconds is deleted again. An orderly end of the process closes the open session like any change
+// of activity; after a crash the open row keeps what its last heartbeat wrote.
 //
 //   samples   A  A  A  B  B  B  B  B  B  B  B  A   one every 4 s; equal ones change nothing
 //   rows      [A──────)[B─────────────────────)[A…   each inserted at its first sample
 //   heartbeat                       ^ every 30 s: the open row's end and duration
 //
 // The session is in one of three states: none (no sample yet), stored (a row belongs to it) or
-// unstored (its insert failed; equal samples are still ignored and nothing is retried until the
-// activity changes).
+// unstored (its insert failed; equal samples are still ignored, and the insert is tried again at
+// each heartbeat and, with its end, when the session closes), so a busy or read-only store costs
+// no time once it takes writes again.
 //
 // Threads: everything here runs on the main thread, including the store calls, which wait for
 // the store's own queue. currentSession and pendingApprovalCount are assigned only by work posted to
@@ -21,6 +22,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <unordered_set>
@@ -51,6 +53,9 @@ public:
     // inserts the new one: an idle sample as an away span, an active one with the engine's category.
     // A failed insert leaves the new session unstored and publishes nothing.
     void process(const RawActivity& activity);
+    // Main thread. Ends the open session as a change of activity would (its row gets its end, or
+    // goes when under minSessionDuration); the next sample opens a new one. For a quit or a logout.
+    void closeOpenSession();
 
     // Counts the pending activities on the caller's thread and posts the assignment of that number.
     void refreshApprovalCount();
@@ -71,8 +76,10 @@ public:
     Published<std::optional<ActivityRecord>> currentSession;
     // Activities waiting for the user. Runs ahead of the store's count, which only counts rows of 30
     // seconds or more: it goes up at the insert of a row that needs approval, and meets the store's
-    // figure again at the next refreshApprovalCount().
+    // figure again whenever a session closes and at every refreshApprovalCount().
     Published<std::int64_t> pendingApprovalCount{0};
+    // Main thread; called with SQLite's message each time a session's row is refused.
+    std::function<void(const std::string&)> onWriteFailure;
 
     static constexpr double minSessionDuration = 5.0;  // seconds; shorter sessions leave no row
     static constexpr double heartbeatInterval = 30.0;  // seconds
@@ -81,11 +88,12 @@ private:
     SessionManager(Database& db, CategoryEngine& engine, const Clock& clock, MainQueue& mainQueue);
 
     void heartbeat();
-    // Deletes the open row when it lasted under minSessionDuration, else writes its end.
+    // Deletes the open row when it lasted under minSessionDuration, else writes its end; an
+    // unstored session of that length is inserted whole. Then resyncs the pending count.
     void closeSession(Date now);
-    // Inserts `record` as the open session's row and posts it as currentSession; on a refused
-    // insert returns false and leaves the session unstored.
-    bool insertSession(ActivityRecord& record);
+    // Inserts `record` as the open session's row and posts it as currentSession (and a pending
+    // one more when it needs approval); a refused insert keeps it as unstored_ and reports.
+    void insertSession(ActivityRecord record);
     // `categoryID` if the catalogue holds it (or could not be read), else "Other".
     std::int64_t storableCategory(std::int64_t categoryID) const;
 
@@ -96,7 +104,8 @@ private:
 
     std::optional<RawActivity> currentActivity_;  // the sample that opened the session
     Date sessionStartTime_;
-    std::int64_t sessionID_ = -1;  // row of the open session; -1 while none belongs to it
+    std::int64_t sessionID_ = -1;             // row of the open session; -1 while none belongs to it
+    std::optional<ActivityRecord> unstored_;  // the open session's row while the store refuses it
     std::unique_ptr<TimerHandle> heartbeatTimer_;
     std::unordered_set<std::int64_t> categoryIDs_;  // the catalogue, as of the last read
 };

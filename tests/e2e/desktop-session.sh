@@ -68,6 +68,7 @@ start_desktop() {
     DBUS_SESSION_BUS_ADDRESS="unix:path=$XDG_RUNTIME_DIR/bus"
     export DBUS_SESSION_BUS_ADDRESS
     background dbus-daemon --session --nofork --address="$DBUS_SESSION_BUS_ADDRESS"
+    bus_pid=$!
     wait_until 10 test -S "$XDG_RUNTIME_DIR/bus" || fail "no session bus"
     start_tray_host
 }
@@ -99,9 +100,16 @@ db() {
     sqlite3 -batch -noheader "$XDG_DATA_HOME/Larkspan/tracker.db" "$@"
 }
 
-# launch: starts "$larkspan" in the background as $tracker; rows: the stored activities.
+# hostile_title PREFIX CHARS: PREFIX padded with x's to CHARS characters.
+hostile_title() {
+    local pad
+    printf -v pad '%*s' $(($2 - $(printf '%s' "$1" | wc -m))) ''
+    printf '%s%s' "$1" "${pad// /x}"
+}
+
+# launch [COMMAND...]: starts $larkspan in the background, through COMMAND when given.
 launch() {
-    "$larkspan" >>"$e2e_root/larkspan.log" 2>&1 &
+    "$@" "$larkspan" >>"$e2e_root/larkspan.log" 2>&1 &
     tracker=$!
     e2e_pids+=("$tracker")
 }

@@ -26,8 +26,7 @@ StartupWMClass=kitty
 ENTRY
 
 # A title with quotes, an emoji and 300 characters in all.
-editor_title="main.cpp — \"Larkspan\" 'tracker' 🚀 "
-while [ "$(printf '%s' "$editor_title" | wc -m)" -lt 300 ]; do editor_title+="x"; done
+editor_title=$(hostile_title "main.cpp — \"Larkspan\" 'tracker' 🚀 " 300)
 editor=$(open_window Code "$editor_title")
 terminal=$(open_window kitty "~/src: make test")
 # No desktop entry and no rule: classified with low confidence, so it needs the user's approval.

@@ -1,16 +1,21 @@
 #include "App/ui/TrayIcon.h"
 
+#include <algorithm>
 #include <cstdio>
+
+#include "Platform/Qt/SessionBus.h"
 
 namespace larkspan {
 
+namespace {
+
+constexpr std::size_t kDrawnIconsKept = 32;
+
+}  // namespace
+
 TrayIcon::TrayIcon(QObject* parent) : QObject(parent) {
-    icon_.setContextMenu(&menu_);
     connect(&menu_, &QMenu::aboutToShow, this, &TrayIcon::rebuildMenu);
-    connect(&icon_, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
-        if (reason == QSystemTrayIcon::Trigger)
-            emit popoverToggleRequested();
-    });
+    SessionBus::whenAnswered(this, [this] { makeIcon(); });
 
     // Hosts announce themselves without telling clients; a slow poll is cheap and only runs while
     // there is none.
@@ -18,19 +23,55 @@ TrayIcon::TrayIcon(QObject* parent) : QObject(parent) {
     connect(&hostWatch_, &QTimer::timeout, this, &TrayIcon::showWhenHostExists);
 }
 
+void TrayIcon::makeIcon() {
+    icon_ = std::make_unique<QSystemTrayIcon>();
+    icon_->setContextMenu(&menu_);
+    connect(icon_.get(), &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
+        if (reason == QSystemTrayIcon::Trigger)
+            emit popoverToggleRequested();
+    });
+    if (content_)
+        present();
+}
+
 void TrayIcon::update(const StatusTitle& title) {
     const TrayIconContent content{QString::fromStdString(title.icon), static_cast<int>(title.pendingCount),
                                   title.timerMark ? QString::fromStdString(*title.timerMark) : QString(),
                                   title.timerPaused};
-    // The timer ticks twice a second; redraw the icon only when its picture changes.
-    if (icon_.icon().isNull() || !(content == shownContent_)) {
-        shownContent_ = content;
-        icon_.setIcon(TrayIconPainter::icon(content));
-    }
-    icon_.setToolTip(QString::fromStdString(title.plainText()));
+    const QString toolTip = QString::fromStdString(title.plainText());
+    // The timer ticks twice a second; the tray hears only of what changed.
+    if (content_ == content && toolTip_ == toolTip)
+        return;
+    content_ = content;
+    toolTip_ = toolTip;
+    if (icon_)
+        present();
+}
+
+void TrayIcon::present() {
+    if (const QIcon icon = iconFor(*content_); icon.cacheKey() != icon_->icon().cacheKey())
+        icon_->setIcon(icon);
+    if (toolTip_ != icon_->toolTip())
+        icon_->setToolTip(toolTip_);
     // The icon goes up with its first picture, never blank.
-    if (!icon_.isVisible() && !hostWatch_.isActive())
+    if (!icon_->isVisible() && !hostWatch_.isActive())
         showWhenHostExists();
+}
+
+QIcon TrayIcon::iconFor(const TrayIconContent& content) {
+    const auto kept = std::find_if(drawnIcons_.begin(), drawnIcons_.end(),
+                                   [&content](const auto& entry) { return entry.first == content; });
+    std::pair<TrayIconContent, QIcon> entry;
+    if (kept != drawnIcons_.end()) {
+        entry = std::move(*kept);
+        drawnIcons_.erase(kept);
+    } else {
+        entry = {content, TrayIconPainter::icon(content)};
+        if (drawnIcons_.size() == kDrawnIconsKept)
+            drawnIcons_.pop_back();
+    }
+    drawnIcons_.push_front(std::move(entry));
+    return drawnIcons_.front().second;
 }
 
 void TrayIcon::setMenuItems(std::function<std::vector<MenuItem>()> items) {
@@ -57,7 +98,8 @@ void TrayIcon::rebuildMenu() {
                 break;
         }
         if (!item.keyEquivalent.empty())
-            action->setShortcut(QKeySequence(QStringLiteral("Ctrl+") + QString::fromStdString(item.keyEquivalent).toUpper()));
+            action->setShortcut(
+                QKeySequence(QStringLiteral("Ctrl+") + QString::fromStdString(item.keyEquivalent).toUpper()));
     }
     addStartAtLogin();
 }
@@ -97,7 +139,7 @@ void TrayIcon::showWhenHostExists() {
     }
     hostWatch_.stop();
     const bool late = reportedNoHost_;
-    icon_.show();
+    icon_->show();
     if (late)
         emit trayAppeared();
 }

@@ -1,7 +1,8 @@
 // The tray icon: draws the status title as an icon with its full text in the tooltip, toggles the
 // popover on a left click and offers the context menu on a right click. A tray host may appear
 // after the application (at login): until one does the icon waits, and it shows once a host exists.
-// The icon first shows with the first title.
+// The icon first shows with the first title. Qt's tray asks the session bus synchronously, so the
+// icon is made only once the bus has answered (SessionBus); until then the title is kept.
 #pragma once
 
 #include <QMenu>
@@ -10,7 +11,11 @@
 #include <QSystemTrayIcon>
 #include <QTimer>
 
+#include <deque>
 #include <functional>
+#include <memory>
+#include <optional>
+#include <utility>
 #include <vector>
 
 #include "App/StatusTitle.h"
@@ -26,9 +31,9 @@ public:
     explicit TrayIcon(QObject* parent = nullptr);
 
     void update(const StatusTitle& title);
-    bool isShown() const { return icon_.isVisible(); }
+    bool isShown() const { return icon_ && icon_->isVisible(); }
     // Where the icon sits on screen; empty when the tray does not tell.
-    QRect geometry() const { return icon_.geometry(); }
+    QRect geometry() const { return icon_ ? icon_->geometry() : QRect(); }
     const QMenu& menu() const { return menu_; }
 
     // Where the menu's entries come from; asked each time the menu opens.
@@ -46,12 +51,20 @@ signals:
 private:
     void rebuildMenu();
     void addStartAtLogin();
+    void makeIcon();
+    // Hands the kept title to the icon; shows it the first time.
+    void present();
     void showWhenHostExists();
+    // The drawn icon of `content`, kept for the few pictures a day alternates between: the tray
+    // caches scaled pixmaps per icon, so a fresh QIcon for an equal picture would grow memory.
+    QIcon iconFor(const TrayIconContent& content);
 
-    QSystemTrayIcon icon_;
+    std::unique_ptr<QSystemTrayIcon> icon_;  // made once the session bus has answered
     QMenu menu_;
     QTimer hostWatch_;
-    TrayIconContent shownContent_;
+    std::optional<TrayIconContent> content_;  // the last title's picture and tooltip
+    QString toolTip_;
+    std::deque<std::pair<TrayIconContent, QIcon>> drawnIcons_;  // most recent first
     std::function<std::vector<MenuItem>()> menuItems_;
     QPointer<StartAtLoginController> startAtLogin_;
     bool reportedNoHost_ = false;

@@ -6,7 +6,10 @@
 #include <QDBusPendingReply>
 #include <QVariantMap>
 
+#include <algorithm>
 #include <cstdio>
+
+#include "Platform/Qt/SessionBus.h"
 
 namespace larkspan {
 
@@ -15,19 +18,25 @@ namespace {
 const char* const kService = "org.freedesktop.Notifications";
 const char* const kPath = "/org/freedesktop/Notifications";
 const char* const kInterface = "org.freedesktop.Notifications";
+constexpr std::size_t kShownIdsKept = 16;
 
 }  // namespace
 
 DBusNotifier::DBusNotifier(QObject* parent) : QObject(parent) {}
 
 void DBusNotifier::notify(const std::string& id, const std::string& title, const std::string& body) {
+    SessionBus::whenAnswered(this, [this, id, title, body] { send(id, title, body); });
+}
+
+void DBusNotifier::send(const std::string& id, const std::string& title, const std::string& body) {
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) {
         reportOnce("no session bus");
         return;
     }
     QDBusMessage call = QDBusMessage::createMethodCall(kService, kPath, kInterface, "Notify");
-    const auto previous = shownIds_.find(id);
+    const auto previous = std::find_if(shownIds_.begin(), shownIds_.end(),
+                                       [&id](const auto& shown) { return shown.first == id; });
     const uint replaces = previous == shownIds_.end() ? 0u : previous->second;
     // The banner is silent: the timer plays its own sounds.
     const QVariantMap hints{{"suppress-sound", true}, {"desktop-entry", "larkspan"}};
@@ -40,10 +49,17 @@ void DBusNotifier::notify(const std::string& id, const std::string& title, const
         if (reply.isError()) {
             reportOnce(reply.error().message());
         } else {
-            shownIds_[id] = reply.value();
+            remember(id, reply.value());
         }
         finished->deleteLater();
     });
+}
+
+void DBusNotifier::remember(const std::string& id, uint daemonID) {
+    std::erase_if(shownIds_, [&id](const auto& shown) { return shown.first == id; });
+    shownIds_.emplace_front(id, daemonID);
+    if (shownIds_.size() > kShownIdsKept)
+        shownIds_.pop_back();
 }
 
 void DBusNotifier::reportOnce(const QString& why) {

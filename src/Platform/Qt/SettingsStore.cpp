@@ -6,6 +6,8 @@
 
 #include <cstdio>
 
+#include "Platform/PrivateFiles.h"
+
 namespace larkspan {
 
 namespace {
@@ -24,7 +26,8 @@ QString SettingsStore::defaultPath() {
 SettingsStore::SettingsStore() : SettingsStore(defaultPath()) {}
 
 SettingsStore::SettingsStore(const QString& filePath) : settings_(filePath, QSettings::IniFormat) {
-    QDir().mkpath(QFileInfo(filePath).absolutePath());
+    const QFileInfo file(filePath);
+    restrictToOwner(file.absolutePath().toStdString(), {file.fileName().toStdString()});
 }
 
 std::optional<std::int64_t> SettingsStore::integer(const std::string& key) const {

@@ -280,5 +280,26 @@ TEST_F(AppDelegateTest, TheWindowAccessPromptShowsAtMostOnceInSevenDays) {
     EXPECT_EQ(workspace.windowAccessPrompts(), promptsBefore + 1);
 }
 
+TEST_F(AppDelegateTest, StoppingEndsTheOpenRowAndWriteFailuresAreReportedOnceAnHour) {
+    workspace.setFrontmost(kTerminal);
+    launch();
+    timers.advance(20);
+    app->stop();
+    ASSERT_EQ(database.fetchActivities(0, 4e9).size(), 1u);
+    EXPECT_EQ(database.fetchActivities(0, 4e9)[0].endTime, kStart + 20);
+
+    database.exec("PRAGMA query_only=1");
+    RawActivity sample;
+    for (const double wait : {0.0, 30.0, 3540.0, 30.0}) {  // four refusals over one hour and a minute
+        timers.advance(wait);
+        sample.appName = "Zqx" + std::to_string(wait);
+        app->sessionManager()->process(sample);
+    }
+    ASSERT_EQ(notifier.sent.size(), 2u);
+    EXPECT_EQ(notifier.sent[0].id, notifier.sent[1].id);  // the second replaces the first
+    EXPECT_EQ(notifier.sent[0].title,
+              "Larkspan cannot save your activity: attempt to write a readonly database");
+}
+
 }  // namespace
 }  // namespace larkspan

@@ -158,26 +158,39 @@ TEST_F(SessionManagerTest, PublishedValuesArriveThroughTheMainQueueSessionBefore
     EXPECT_TRUE(session.needsApproval);
     EXPECT_FALSE(session.isApproved);
 
-    // A confident session posts itself only.
+    // A confident session posts the count of the store, resynced at the close, then itself.
     manager->process(kKitty);
-    EXPECT_EQ(mainQueue.pendingCount(), 1u);
+    EXPECT_EQ(mainQueue.pendingCount(), 2u);
 }
 
-TEST_F(SessionManagerTest, PublishedCountRunsAheadOfTheStoresUntilRefreshed) {
+TEST_F(SessionManagerTest, PublishedCountRunsAheadOfTheStoresOnlyUntilTheSessionCloses) {
     after(0, kMystery);
     EXPECT_EQ(manager->pendingApprovalCount.get(), 1);
     EXPECT_EQ(db.pendingApprovalCount(), 0);  // younger than 30 s
     after(30, kMystery);
     EXPECT_EQ(db.pendingApprovalCount(), 1);  // the heartbeat made it 30 s long
-    // Another asking session, deleted as too short: published 2, stored 1.
+    // Another asking session runs ahead, until it is deleted as too short.
     after(1, app("Qzx"));
-    after(2, kKitty);
     EXPECT_EQ(manager->pendingApprovalCount.get(), 2);
-    EXPECT_EQ(db.pendingApprovalCount(), 1);
-    manager->refreshApprovalCount();
-    EXPECT_EQ(manager->pendingApprovalCount.get(), 2);  // posted, not yet run
-    mainQueue.drain();
+    after(2, kKitty);
     EXPECT_EQ(manager->pendingApprovalCount.get(), 1);
+    EXPECT_EQ(db.pendingApprovalCount(), 1);
+}
+
+TEST_F(SessionManagerTest, ARowRefusedFromStartToEndIsStoredWholeAtItsClose) {
+    std::vector<std::string> failures;
+    manager->onWriteFailure = [&failures](const std::string& message) { failures.push_back(message); };
+    db.exec("PRAGMA query_only=1");
+    after(0, kMystery);
+    db.exec("PRAGMA query_only=0");
+    after(12, kKitty);
+    ASSERT_EQ(failures.size(), 1u);
+    EXPECT_EQ(failures[0], "attempt to write a readonly database");
+    const auto stored = rows();
+    ASSERT_EQ(stored.size(), 2u);
+    EXPECT_EQ(stored[0].appName, "Zqx");
+    EXPECT_EQ(stored[0].startTime, t0);
+    EXPECT_EQ(stored[0].durationSeconds, 12);
 }
 
 TEST_F(SessionManagerTest, SampleThatChangesNothingTouchesNeitherStoreNorEngine) {
@@ -194,12 +207,14 @@ TEST_F(SessionManagerTest, SampleThatChangesNothingTouchesNeitherStoreNorEngine)
     EXPECT_EQ(engine.calls(), calls);
     EXPECT_EQ(mainQueue.pendingCount(), 0u);
 
-    // A change costs one write to close and one to open: the catalogue is not read per sample.
+    // A change costs a write to close, the pending count and a write to open: the catalogue is not
+    // read per sample.
     after(6, kMystery);
     const auto statements = trace.take();
-    ASSERT_EQ(statements.size(), 2u);
+    ASSERT_EQ(statements.size(), 3u);
     EXPECT_TRUE(statements[0].starts_with("UPDATE activities")) << statements[0];
-    EXPECT_TRUE(statements[1].starts_with("INSERT INTO activities")) << statements[1];
+    EXPECT_TRUE(statements[1].starts_with("SELECT COUNT(*)")) << statements[1];
+    EXPECT_TRUE(statements[2].starts_with("INSERT INTO activities")) << statements[2];
     EXPECT_EQ(engine.calls(), calls + 1);
 }
 

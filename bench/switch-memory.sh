@@ -1,0 +1,33 @@
+#!/usr/bin/env bash
+# Memory of the tracker over many window switches: three windows of different categories (one of
+# them asks for a category, so the tray badge changes too) take turns in front, and the resident
+# memory is read after a warm-up and at the end. Takes a few minutes.
+# Usage: switch-memory.sh path/to/larkspan [switches, default 10000]
+set -euo pipefail
+larkspan=$1
+switches=${2:-10000}
+warmup=500
+. "$(dirname "$0")/../tests/e2e/desktop-session.sh"
+
+start_desktop
+printf '[Desktop Entry]\nType=Application\nName=kitty\nExec=kitty\nStartupWMClass=kitty\n' \
+    >"$XDG_DATA_HOME/applications/kitty.desktop"
+windows=($(open_window kitty "~: make") $(open_window Firefox "News") $(open_window Mystery "what is this"))
+launch
+sleep 3
+
+rss_kb() { awk '/^VmRSS:/ { print $2 }' "/proc/$tracker/status"; }
+for ((i = 1; i <= switches; i++)); do
+    xdotool windowactivate --sync "${windows[i % 3]}"
+    # Window switches are no input: a moving pointer keeps the tracker from counting the user away.
+    [ $((i % 50)) -ne 0 ] || xdotool mousemove $((100 + i % 100)) 100
+    [ "$i" -ne "$warmup" ] || { sleep 2; after_warmup=$(rss_kb); }
+done
+sleep 5
+final=$(rss_kb)
+kill -0 "$tracker" || fail "the tracker died during the switches"
+echo "switches:                       $switches"
+echo "resident after $warmup switches:     $((after_warmup / 1024)) MiB"
+echo "resident after $switches switches:   $((final / 1024)) MiB"
+awk -v a="$after_warmup" -v b="$final" -v n=$((switches - warmup)) \
+    'BEGIN { printf "growth per switch after warm-up: %.0f bytes\n", (b - a) * 1024 / n }'
