@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <optional>
+#include <string_view>
 
 #include "App/AppDelegate.h"
 #include "App/ui/QtAppPresenter.h"
@@ -16,13 +18,15 @@
 #include "Platform/Linux/LinuxScriptRunner.h"
 #include "Platform/Linux/SessionEnvironment.h"
 #include "Platform/Linux/X11WindowHints.h"
-#include "Platform/Linux/X11Workspace.h"
 #include "Platform/Qt/DBusNotifier.h"
+#include "Platform/Qt/GnomeExtensionInstaller.h"
+#include "Platform/Qt/NotificationPrompts.h"
 #include "Platform/Qt/QtMainQueue.h"
 #include "Platform/Qt/QtRepeatingTimer.h"
 #include "Platform/Qt/SettingsStore.h"
 #include "Platform/Qt/SingleInstance.h"
 #include "Platform/Qt/TerminationSignals.h"
+#include "Platform/Qt/WorkspaceFactory.h"
 #include "Platform/SerialQueue.h"
 
 using namespace larkspan;
@@ -41,6 +45,8 @@ bool hasDisplay() {
 }  // namespace
 
 int main(int argc, char** argv) {
+    if (argc == 2 && std::string_view(argv[1]) == "--install-gnome-extension")
+        return runInstallGnomeExtension();
     if (!hasDisplay()) {
         std::fputs("Larkspan needs a graphical session: neither DISPLAY nor WAYLAND_DISPLAY is set.\n",
                    stderr);
@@ -63,9 +69,10 @@ int main(int argc, char** argv) {
     auto mainQueue = std::make_shared<QtMainQueue>(&app);
     auto notifier = std::make_shared<DBusNotifier>();
     auto entries = std::make_shared<DesktopEntries>(session.applicationDirs, session.localeKeys);
-    auto workspace =
-        std::make_shared<X11Workspace>(session, std::make_shared<AppIdentity>(entries), mainQueue, notifier);
-    LinuxScriptRunner scripts(workspace);
+    const auto desktop =
+        makeSessionWorkspace(session, std::make_shared<AppIdentity>(entries), mainQueue, notifier);
+    Workspace& workspace = *desktop.workspace;
+    LinuxScriptRunner scripts(desktop.windows);
     SystemClock clock;
     QtRepeatingTimer timers;
     SettingsStore defaults;
@@ -73,10 +80,15 @@ int main(int argc, char** argv) {
     NotificationCenter notifications;
     SerialQueue monitorQueue(kMonitorQueueLabel);
     QtAppPresenter presenter;
+    // A Wayland client cannot float its cards at the bottom right; notifications with actions can.
+    std::optional<NotificationPrompts> prompts;
+    if (session.wayland)
+        prompts.emplace(presenter, QDBusConnection::sessionBus());
 
     auto delegate = std::make_shared<AppDelegate>(
-        database, AppEnvironment{clock, *mainQueue, timers, defaults, sounds, *notifier, notifications,
-                                 *workspace, scripts, monitorQueue, presenter});
+        database,
+        AppEnvironment{clock, *mainQueue, timers, defaults, sounds, *notifier, notifications, workspace,
+                       scripts, monitorQueue, prompts ? static_cast<AppPresenter&>(*prompts) : presenter});
 
     // Launching draws the first title, so the tray icon never shows blank.
     delegate->start();
