@@ -3,7 +3,8 @@
 # switched with swaymsg; the store must hold the applications' names, ids, titles and categories,
 # and no closed row under 5 seconds. Then nobody touches anything (the headless seat has no input
 # devices) and the compositor's idle notice must turn into an away row after the 120-second
-# threshold. sway refuses to run as root, so as root the test runs itself again as an unprivileged
+# threshold. Then sway restarts under the tracker, which must neither crash nor spin while it is
+# gone, and must record again once it is back. sway refuses to run as root, so as root the test runs itself again as an unprivileged
 # user. Usage: sway-test.sh path/to/larkspan
 set -euo pipefail
 larkspan=$(realpath "$1")
@@ -45,13 +46,18 @@ mkdir -p "$HOME" "$XDG_DATA_HOME/applications" "$XDG_CONFIG_HOME" "$XDG_RUNTIME_
 chmod 700 "$XDG_RUNTIME_DIR"
 
 printf 'output HEADLESS-1 resolution 1280x800\n' >"$root/sway.conf"
-WLR_BACKENDS=headless WLR_RENDERER=pixman WLR_LIBINPUT_NO_DEVICES=1 sway -c "$root/sway.conf" >"$root/sway.log" 2>&1 &
-pids+=("$!")
 socket() { ls "$XDG_RUNTIME_DIR" | grep -E '^wayland-[0-9]+$' | head -n 1 | grep .; }
-wait_until 15 socket || fail "sway did not start"
-export WAYLAND_DISPLAY=$(socket) XDG_SESSION_TYPE=wayland
-SWAYSOCK=$(ls "$XDG_RUNTIME_DIR"/sway-ipc.*.sock)
-export SWAYSOCK
+start_sway() {
+    WLR_BACKENDS=headless WLR_RENDERER=pixman WLR_LIBINPUT_NO_DEVICES=1 sway -c "$root/sway.conf" >>"$root/sway.log" 2>&1 &
+    sway=$!
+    pids+=("$sway")
+    wait_until 15 socket || fail "sway did not start"
+    export WAYLAND_DISPLAY=$(socket) XDG_SESSION_TYPE=wayland
+    wait_until 5 ls "$XDG_RUNTIME_DIR"/sway-ipc.*.sock || fail "no sway IPC socket"
+    SWAYSOCK=$(ls "$XDG_RUNTIME_DIR"/sway-ipc.*.sock | head -n 1)
+    export SWAYSOCK
+}
+start_sway
 
 # The same desktop entries as on X11: the Wayland app id finds them by desktop id.
 printf '[Desktop Entry]\nType=Application\nName=Visual Studio Code\nExec=code\nStartupWMClass=Code\n' \
@@ -107,6 +113,21 @@ wait_until $((140 - (SECONDS - launched))) away || fail "no away row 140 s after
 check "the terminal row ended at the silence" 1 \
     "SELECT count(*) FROM activities WHERE bundle_id = 'net.kovidgoyal.kitty' AND end_time IS NOT NULL
      AND duration_seconds >= 5 AND id = (SELECT max(id) FROM activities WHERE app_name <> 'Away')"
+# The compositor goes away for a few seconds: the tracker waits without burning the CPU.
+cpu_ticks() { awk '{ print $14 + $15 }' "/proc/$tracker/stat"; }
+kill "$sway"
+wait "$sway" 2>/dev/null || true
+rm -f "$XDG_RUNTIME_DIR"/sway-ipc.*.sock "$XDG_RUNTIME_DIR"/wayland-*
+before=$(cpu_ticks)
+sleep 5
+[ -d "/proc/$tracker" ] || fail "the tracker ended with the compositor"
+spent=$(($(cpu_ticks) - before))
+[ "$spent" -le 50 ] || fail "the tracker spun while the compositor was gone: $spent ticks in 5 s"
+start_sway
+open_window code "$editor_title"
+focus code 0
+back() { [ "$(db "SELECT count(*) FROM activities WHERE bundle_id = 'com.microsoft.VSCode'")" = 2 ]; }
+wait_until 15 back || fail "no new row after the compositor came back"
 kill "$tracker"
 wait "$tracker" 2>/dev/null || true
 check "integrity" ok "PRAGMA integrity_check"
