@@ -11,6 +11,7 @@
 #include <QTest>
 
 #include "ManualMainQueue.h"
+#include "Platform/Qt/GnomeExtensionInstaller.h"
 #include "Platform/Qt/GnomeShellSource.h"
 #include "Platform/Qt/KWinSource.h"
 #include "Platform/Qt/NotificationPrompts.h"
@@ -145,6 +146,20 @@ private slots:
         QVERIFY(shell.waitForFinished());
         QTRY_VERIFY(!workspace->canReadWindows());
         QCOMPARE(notifier->sent.size(), 1u);
+    }
+
+    // GNOME 45 loads extensions as ES modules, 43 and 44 through `imports`.
+    void installsTheExtensionInTheFlavourOfTheShell() {
+        QTemporaryDir dir;
+        for (int shell : {43, 46}) {
+            const auto folder = installGnomeExtension(dir.path().toStdString(), shell);
+            QFile entry(QString::fromStdString((folder / "extension.js").string()));
+            QFile service(QString::fromStdString((folder / "focusedWindow.js").string()));
+            QVERIFY(entry.open(QIODevice::ReadOnly) && service.open(QIODevice::ReadOnly));
+            QCOMPARE(entry.readAll().contains("export default class"), shell >= 45);
+            QCOMPARE(service.readAll().contains("export {FocusedWindowService"), shell >= 45);
+            QVERIFY(QFile::exists(QString::fromStdString((folder / "metadata.json").string())));
+        }
     }
 
     void loadsTheKWinScriptAgainAfterARestartAndTakesItsCalls() {

@@ -43,6 +43,7 @@ struct WaylandSource::Session {
 
     ReportedWorkspace& workspace;
     const bool readWindows;
+    bool established = false;  // the compositor offered what we read; a later break starts the pauses over
     wl_display* display = nullptr;
     wl_registry* registry = nullptr;
     wl_seat* seat = nullptr;
@@ -247,6 +248,8 @@ void WaylandSource::run() {
             {
                 Session session(*workspace_, reads_ == Reads::windowsAndSilence, connection);
                 stopping = serve(session);
+                if (session.established)
+                    retry = kFirstRetryMs;
             }
             wl_display_disconnect(connection);
             if (reads_ == Reads::windowsAndSilence)
@@ -272,6 +275,7 @@ bool WaylandSource::serve(Session& session) {
     // The second round trip brings every open toplevel with its first `done`.
     if (wl_display_roundtrip(display) < 0)
         return false;
+    session.established = true;
     if (session.readWindows)
         workspace_->sourceConnected(true);
 
