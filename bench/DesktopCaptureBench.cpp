@@ -4,13 +4,19 @@
 // the server (the idle query alone); the ratio shows what identity and titles add. A second xterm
 // stands for a browser window whose extension reported its tab: its capture adds the tab script,
 // answered from the bridge.
+//
+// On Wayland the compositor pushes window changes instead: BM_WaylandActivationToStoredRow times
+// our side of one activation, from the reported window to its row in the store.
 #include <benchmark/benchmark.h>
 
+#include "Data/Database.h"
 #include "FakeBrowserBridge.h"
 #include "ManualMainQueue.h"
 #include "Platform/Linux/LinuxScriptRunner.h"
+#include "Platform/Linux/ReportedWorkspace.h"
 #include "Platform/Linux/X11Workspace.h"
 #include "Platform/TabScripts.h"
+#include "TempDir.h"
 #include "XvfbDisplay.h"
 
 namespace larkspan {
@@ -140,6 +146,40 @@ void BM_OneRoundTrip(benchmark::State& state) {
         benchmark::DoNotOptimize(d.workspace->secondsSinceLastInput());
 }
 BENCHMARK(BM_OneRoundTrip)->Unit(benchmark::kMicrosecond);
+
+// A foreign-toplevel `done` for a newly activated window: the report, the activation notice on the
+// main queue, the capture's three reads with identity from the real desktop entries, and the insert.
+void BM_WaylandActivationToStoredRow(benchmark::State& state) {
+    const auto session = SessionEnvironment::fromProcess();
+    auto mainQueue = std::make_shared<test::ManualMainQueue>();
+    ReportedWorkspace workspace(std::make_shared<AppIdentity>(std::make_shared<DesktopEntries>(
+                                    session.applicationDirs, session.localeKeys)),
+                                mainQueue, nullptr, {}, {});
+    workspace.sourceConnected(true);
+    int activations = 0;
+    workspace.setApplicationActivatedHandler([&] { ++activations; });
+    test::TempDir folder;
+    Database database(folder / "tracker.db");
+    const ReportedWindow windows[2] = {{.id = 1, .appID = "foot", .title = "~/src: make test"},
+                                       {.id = 2, .appID = "org.gnome.Nautilus", .title = "Downloads"}};
+    std::size_t next = 0;
+    for (auto _ : state) {
+        workspace.windowChanged(windows[next++ % 2], true);
+        mainQueue->drain();
+        ActivityRecord record;
+        const double idle = workspace.secondsSinceLastInput();
+        const auto app = workspace.frontmostApplication();
+        record.appName = app->localizedName.value_or("Unknown");
+        record.bundleID = app->bundleID;
+        record.windowTitle = workspace.focusedWindowTitle(app->pid);
+        record.startTime = 1.7e9 + static_cast<double>(next);
+        benchmark::DoNotOptimize(idle);
+        benchmark::DoNotOptimize(database.insertActivity(record));
+    }
+    if (activations != static_cast<int>(state.iterations()))
+        state.SkipWithError("every switch must announce one activation");
+}
+BENCHMARK(BM_WaylandActivationToStoredRow)->Unit(benchmark::kMicrosecond)->MeasureProcessCPUTime();
 
 }  // namespace
 }  // namespace larkspan

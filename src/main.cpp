@@ -7,6 +7,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <optional>
+#include <string_view>
 
 #include "App/AppDelegate.h"
 #include "App/StartAtLogin.h"
@@ -23,9 +25,9 @@
 #include "Platform/Linux/LinuxScriptRunner.h"
 #include "Platform/Linux/SessionEnvironment.h"
 #include "Platform/Linux/X11WindowHints.h"
-#include "Platform/Linux/X11Workspace.h"
 #include "Platform/PrivateFiles.h"
 #include "Platform/Qt/DBusNotifier.h"
+#include "Platform/Qt/NotificationPrompts.h"
 #include "Platform/Qt/OrderlyExit.h"
 #include "Platform/Qt/QtMainQueue.h"
 #include "Platform/Qt/QtRepeatingTimer.h"
@@ -33,6 +35,7 @@
 #include "Platform/Qt/SettingsStore.h"
 #include "Platform/Qt/SingleInstance.h"
 #include "Platform/Qt/TerminationSignals.h"
+#include "Platform/Qt/WorkspaceFactory.h"
 #include "Platform/SerialQueue.h"
 
 using namespace larkspan;
@@ -84,11 +87,12 @@ int main(int argc, char** argv) {
     auto mainQueue = std::make_shared<QtMainQueue>(&app);
     auto notifier = std::make_shared<DBusNotifier>();
     auto entries = std::make_shared<DesktopEntries>(session.applicationDirs, session.localeKeys);
-    auto workspace =
-        std::make_shared<X11Workspace>(session, std::make_shared<AppIdentity>(entries), mainQueue, notifier);
+    const auto desktop =
+        makeSessionWorkspace(session, std::make_shared<AppIdentity>(entries), mainQueue, notifier);
+    Workspace& workspace = *desktop.workspace;
     SystemClock clock;
     auto browserBridge = std::make_shared<BrowserBridgeServer>(bridgeSocketPath(), clock);
-    LinuxScriptRunner scripts(workspace, browserBridge);
+    LinuxScriptRunner scripts(desktop.windows, browserBridge);
     QtRepeatingTimer timers;
     SettingsStore defaults;
     StartAtLogin startAtLogin(autostartEntryPath(std::getenv), runningExecutable(), defaults);
@@ -100,14 +104,19 @@ int main(int argc, char** argv) {
     BrowserBridgeStatusModel browserStatus(browserBridge, clock);
     BrowserBridgeStatusModel::share(&browserStatus);
     QtAppPresenter presenter;
+    // A Wayland client cannot float its cards at the bottom right; notifications with actions can.
+    std::optional<NotificationPrompts> prompts;
+    if (session.wayland)
+        prompts.emplace(presenter, QDBusConnection::sessionBus());
 
     auto& startAtLoginSwitch = StartAtLoginController::of(presenter.engine());
     startAtLoginSwitch.setStartAtLogin(&startAtLogin, notifier.get());
     presenter.tray().setStartAtLogin(&startAtLoginSwitch);
 
     auto delegate = std::make_shared<AppDelegate>(
-        database, AppEnvironment{clock, *mainQueue, timers, defaults, sounds, *notifier, notifications,
-                                 *workspace, scripts, monitorQueue, presenter});
+        database,
+        AppEnvironment{clock, *mainQueue, timers, defaults, sounds, *notifier, notifications, workspace,
+                       scripts, monitorQueue, prompts ? static_cast<AppPresenter&>(*prompts) : presenter});
 
     // Launching draws the first title, so the tray icon never shows blank.
     delegate->start();

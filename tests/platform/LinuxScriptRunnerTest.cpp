@@ -125,6 +125,16 @@ TEST(LinuxScriptRunner, TheBridgeAnswersOnlyForTheFrontBrowsersAgreeingTab) {
          {700, "chromium", true, "", "", 10},
          std::nullopt,
          "firefox://active|||Docs \u2014 Mozilla Firefox"},
+        {"no owner named: the title picks the report",
+         {0, "x: Issues - Chromium"},
+         github,
+         "https://github.com/x|||x: Issues",
+         "https://github.com/x|||x: Issues"},
+        {"no owner named and no report agrees",
+         {0, "Inbox - Chromium"},
+         github,
+         std::nullopt,
+         "firefox://active|||Docs \u2014 Mozilla Firefox"},
     };
     for (const auto& c : cases) {
         windows->front = c.front;

@@ -8,6 +8,7 @@
 
 #include "App/StartAtLogin.h"
 #include "App/ui/BrowserBridgeInstall.h"
+#include "Platform/Qt/GnomeExtensionInstaller.h"
 #include "Platform/Qt/SettingsStore.h"
 #include "Version.h"
 
@@ -59,7 +60,10 @@ std::optional<int> answerCommandLine(const QStringList& arguments, bool deferUnk
         QStringLiteral("Let the browsers' Larkspan extension reach Larkspan, then quit."));
     const QCommandLineOption uninstallBridge(QStringLiteral("uninstall-browser-bridge"),
                                              QStringLiteral("Undo --install-browser-bridge, then quit."));
-    parser.addOptions({help, version, autostart, installBridge, uninstallBridge});
+    const QCommandLineOption installGnomeExtension(
+        QStringLiteral("install-gnome-extension"),
+        QStringLiteral("Install the GNOME Shell extension that shows Larkspan the window in front, then quit."));
+    parser.addOptions({help, version, autostart, installBridge, uninstallBridge, installGnomeExtension});
 
     const QString program =
         arguments.isEmpty() ? QStringLiteral("larkspan") : QFileInfo(arguments[0]).fileName();
@@ -97,6 +101,8 @@ std::optional<int> answerCommandLine(const QStringList& arguments, bool deferUnk
     }
     if (parser.isSet(installBridge) || parser.isSet(uninstallBridge))
         return changeBrowserBridge(parser.isSet(installBridge));
+    if (parser.isSet(installGnomeExtension))
+        return runInstallGnomeExtension();
     return std::nullopt;
 }
 

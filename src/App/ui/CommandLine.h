@@ -1,5 +1,6 @@
-// Larkspan's command line. --help, --version, --autostart on|off and --(un)install-browser-bridge are
-// answered at once and end the process; an option or argument it does not know is refused with a message.
+// Larkspan's command line. --help, --version, --autostart on|off, --(un)install-browser-bridge and
+// --install-gnome-extension are answered at once and end the process; an option or argument it does
+// not know is refused with a message.
 #pragma once
 
 #include <QStringList>

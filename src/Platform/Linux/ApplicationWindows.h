@@ -9,7 +9,7 @@
 namespace larkspan {
 
 struct FrontWindow {
-    std::int64_t pid = 0;  // of the process that owns the window
+    std::int64_t pid = 0;  // of the process that owns the window; 0 when the desktop does not say
     std::string title;
 };
 

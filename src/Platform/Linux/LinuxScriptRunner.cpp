@@ -46,10 +46,24 @@ std::optional<std::string> LinuxScriptRunner::bridgeAnswer() {
     const auto front = windows_->frontWindow();
     if (!front)
         return std::nullopt;
-    const auto report = bridge_->latestReport(front->pid);
+    auto report = front->pid != 0 ? bridge_->latestReport(front->pid) : reportShownIn(front->title);
     if (!report || report->isPrivate || !tabTitleAgrees(report->title, front->title))
         return std::nullopt;
     return report->url + "|||" + report->title;
+}
+
+// Where the desktop names no owner (wlroots compositors), the window's title picks the report: only
+// when exactly one browser's tab agrees with it, so two browsers on the same page answer nothing.
+std::optional<BrowserTabReport> LinuxScriptRunner::reportShownIn(const std::string& windowTitle) {
+    std::optional<BrowserTabReport> shown;
+    for (auto& report : bridge_->latestReports()) {
+        if (report.isPrivate || !tabTitleAgrees(report.title, windowTitle))
+            continue;
+        if (shown)
+            return std::nullopt;
+        shown = std::move(report);
+    }
+    return shown;
 }
 
 }  // namespace larkspan

@@ -35,6 +35,7 @@ public:
 private:
     // "address|||title" of the front window's tab as its browser reported it, when it agrees.
     std::optional<std::string> bridgeAnswer();
+    std::optional<BrowserTabReport> reportShownIn(const std::string& windowTitle);
 
     std::shared_ptr<ApplicationWindows> windows_;
     std::shared_ptr<BrowserBridge> bridge_;

@@ -82,7 +82,8 @@ SessionEnvironment SessionEnvironment::from(const std::function<const char*(cons
     };
     SessionEnvironment env;
     env.display = value("DISPLAY");
-    env.wayland = !value("WAYLAND_DISPLAY").empty() || value("XDG_SESSION_TYPE") == "wayland";
+    env.waylandDisplay = value("WAYLAND_DISPLAY");
+    env.wayland = !env.waylandDisplay.empty() || value("XDG_SESSION_TYPE") == "wayland";
 
     std::filesystem::path dataHome = value("XDG_DATA_HOME");
     if (dataHome.empty() || dataHome.is_relative()) {

@@ -11,8 +11,9 @@
 namespace larkspan {
 
 struct SessionEnvironment {
-    std::string display;   // DISPLAY; empty when unset
-    bool wayland = false;  // WAYLAND_DISPLAY set or XDG_SESSION_TYPE=wayland
+    std::string display;         // DISPLAY; empty when unset
+    bool wayland = false;        // WAYLAND_DISPLAY set or XDG_SESSION_TYPE=wayland
+    std::string waylandDisplay;  // WAYLAND_DISPLAY; empty means the default, "wayland-0"
     // `applications` folders, most important first: $XDG_DATA_HOME, each $XDG_DATA_DIRS, then the
     // Flatpak export folders when XDG_DATA_DIRS does not already name them.
     std::vector<std::filesystem::path> applicationDirs;

@@ -174,8 +174,7 @@ double X11Workspace::secondsSinceLastInput() {
 }
 
 void X11Workspace::setApplicationActivatedHandler(std::function<void()> handler) {
-    std::lock_guard lock(handler_->mutex);
-    handler_->function = std::move(handler);
+    handler_.set(std::move(handler));
 }
 
 bool X11Workspace::canReadWindows() {
@@ -234,18 +233,7 @@ bool X11Workspace::pumpEvents(XcbConnection& connection, std::optional<ActiveKey
         last = std::move(key);
         if (!announce)
             return;
-        mainQueue_->post([weak = std::weak_ptr<Handler>(handler_)] {
-            auto handler = weak.lock();
-            if (!handler)
-                return;
-            std::function<void()> function;
-            {
-                std::lock_guard lock(handler->mutex);
-                function = handler->function;
-            }
-            if (function)
-                function();
-        });
+        handler_.announce(*mainQueue_);
     };
     // After a reconnect, an application that came to the front meanwhile is a change.
     noteActive(reconnected);

@@ -11,6 +11,7 @@
 #include <mutex>
 #include <thread>
 
+#include "Platform/Linux/ActivationHandler.h"
 #include "Platform/Linux/AppIdentity.h"
 #include "Platform/Linux/ApplicationWindows.h"
 #include "Platform/Linux/SessionEnvironment.h"
@@ -54,10 +55,6 @@ public:
     std::optional<std::string> frontWindowTitle(const std::string& bundleID) override;
 
 private:
-    struct Handler {
-        std::mutex mutex;
-        std::function<void()> function;
-    };
     // What makes one application different from another for the activation notice.
     struct ActiveKey {
         std::int64_t pid = 0;
@@ -80,7 +77,7 @@ private:
     const std::shared_ptr<AppIdentity> identity_;
     const std::shared_ptr<MainQueue> mainQueue_;
     const std::shared_ptr<Notifier> notifier_;
-    const std::shared_ptr<Handler> handler_ = std::make_shared<Handler>();
+    ActivationHandler handler_;
 
     std::mutex queryMutex_;
     std::shared_ptr<XcbConnection> query_;
