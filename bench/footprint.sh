@@ -95,7 +95,7 @@ wait_until 10 shown '^Larkspan$' || fail "no dashboard after a second launch"
 dashboard=$(shown '^Larkspan$' | head -n 1)
 sleep 1
 for row in 4 3 2 1 0; do
-    xdotool mousemove --window "$dashboard" 80 $((150 + 34 * row)) click 1
+    xdotool mousemove --window "$dashboard" 80 $((136 + 34 * row)) click 1
     sleep 1
 done
 note_memory dashboard
