@@ -45,11 +45,18 @@ test-sanitize: deps
 test: test-sanitize build
 	ctest --test-dir $(BUILD_DIR) --output-on-failure -j $(JOBS)
 
+# Every benchmark program (the bench_* executables, not their build folders), then the footprint of
+# the real tracker; all of them run, and the target fails if any of them failed.
 bench: deps
 	cmake -S . -B $(BENCH_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Release -DLARKSPAN_BENCH=ON $(CMAKE_FLAGS)
 	cmake --build $(BENCH_DIR) -j $(JOBS)
-	@set -e; for b in $(BENCH_DIR)/bench/bench_*; do echo "== $$(basename $$b)"; $$b $(BENCH_ARGS); done
-	@echo "== footprint"; bench/footprint.sh $(BENCH_DIR)/src/larkspan
+	@failed=""; \
+	for b in $(BENCH_DIR)/bench/bench_*; do \
+		[ -f "$$b" ] && [ -x "$$b" ] || continue; \
+		echo "== $$(basename $$b)"; $$b $(BENCH_ARGS) || failed="$$failed $$(basename $$b)"; \
+	done; \
+	echo "== footprint"; bench/footprint.sh $(BENCH_DIR)/src/larkspan || failed="$$failed footprint"; \
+	[ -z "$$failed" ] || { echo "failed:$$failed" >&2; exit 1; }
 
 # The tracking road once more under ThreadSanitizer.
 tsan: deps

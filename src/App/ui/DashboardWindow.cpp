@@ -19,6 +19,9 @@ DashboardWindow::DashboardWindow(QQmlEngine& engine, Database& database, Session
     view_->setMinimumSize(minimumSize);
     view_->setResizeMode(QQuickView::SizeRootObjectToView);
     view_->setColor(QGuiApplication::palette().color(QPalette::Window));
+    // Hidden, the window keeps its view and state but not what drawing it took.
+    view_->setPersistentGraphics(false);
+    view_->setPersistentSceneGraph(false);
     view_->setInitialProperties({{QStringLiteral("controller"), QVariant::fromValue(&controller_)}});
     view_->setSource(QUrl(QStringLiteral("qrc:/qt/qml/Larkspan/DashboardView.qml")));
     restoreGeometry();
@@ -26,10 +29,12 @@ DashboardWindow::DashboardWindow(QQmlEngine& engine, Database& database, Session
     // The categories are read each time the window comes on screen, so one added elsewhere shows
     // after reopening.
     connect(view_.get(), &QWindow::visibleChanged, this, [this](bool visible) {
-        if (visible)
+        if (visible) {
             controller_.loadCategories();
-        else
+        } else {
             saveGeometry();
+            view_->releaseResources();
+        }
     });
     for (auto changed :
          {&QWindow::xChanged, &QWindow::yChanged, &QWindow::widthChanged, &QWindow::heightChanged})

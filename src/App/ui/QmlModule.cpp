@@ -1,6 +1,8 @@
 #include "App/ui/QmlModule.h"
 
 #include <QQmlEngine>
+#include <QQuickWindow>
+#include <QSGRendererInterface>
 
 #include "App/ui/SymbolImageProvider.h"
 
@@ -15,9 +17,16 @@ namespace {
 // file would be dropped and the import would find no C++ types.
 void (*volatile const registerTypes)() = &qml_register_types_Larkspan;
 
+bool chooseSceneGraphBackend() {
+    if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND") && qEnvironmentVariableIsEmpty("QSG_RHI_BACKEND"))
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    return true;
+}
+
 }  // namespace
 
 void prepareQmlEngine(QQmlEngine& engine) {
+    [[maybe_unused]] static const bool backendChosen = chooseSceneGraphBackend();
     (void)registerTypes;
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     if (!engine.imageProvider(SymbolImageProvider::id))

@@ -9,6 +9,11 @@ namespace larkspan {
 
 // Adds the module's import path and the symbol image provider to `engine`. Call once per engine,
 // before loading any view; calling it again is harmless.
+//
+// The first call, which must come before any Qt Quick window exists, also has every window drawn
+// by Qt Quick's software renderer unless QT_QUICK_BACKEND or QSG_RHI_BACKEND asks for another. The
+// windows are small, mostly still and redrawn in part; an OpenGL context would bring its driver
+// (without a GPU, Mesa's llvmpipe with LLVM) and keep tens of megabytes for the tracker's whole life.
 void prepareQmlEngine(QQmlEngine& engine);
 
 }  // namespace larkspan

@@ -2,14 +2,37 @@
 
 #include <QSystemTrayIcon>
 
+#include <malloc.h>
+
 #include "App/ui/QmlModule.h"
 #include "Platform/Qt/SettingsStore.h"
 #include "Review/ui/IdleReturnController.h"
 
 namespace larkspan {
 
+namespace {
+
+// Long enough for the closed window's deferred deletions to have run.
+constexpr int kTrimDelayMilliseconds = 500;
+
+}  // namespace
+
 QtAppPresenter::QtAppPresenter() {
-    prepareQmlEngine(engine_);
+    trim_.setSingleShot(true);
+    trim_.setInterval(kTrimDelayMilliseconds);
+    trim_.callOnTimeout([this] {
+        if (engine_)
+            engine_->collectGarbage();
+        malloc_trim(0);
+    });
+}
+
+QQmlEngine& QtAppPresenter::engine() {
+    if (!engine_) {
+        engine_ = std::make_unique<QQmlEngine>();
+        prepareQmlEngine(*engine_);
+    }
+    return *engine_;
 }
 
 void QtAppPresenter::attach(Database& database, SessionManager& sessionManager,
@@ -17,14 +40,13 @@ void QtAppPresenter::attach(Database& database, SessionManager& sessionManager,
     database_ = &database;
     sessionManager_ = &sessionManager;
     pomodoroTimer_ = &pomodoroTimer;
-    quickSummary_ = std::make_unique<QuickSummaryController>(database, sessionManager, pomodoroTimer, clock_);
-    quickSummary_->setOnOpenDashboard([this] {
-        closePopover();
-        if (openDashboard_) {
-            openDashboard_();
-        }
+}
+
+void QtAppPresenter::releaseWhenHidden(QWindow& window) {
+    QObject::connect(&window, &QWindow::visibleChanged, &trim_, [this](bool visible) {
+        if (!visible)
+            trim_.start();
     });
-    popover_ = std::make_unique<QuickSummaryPopover>(engine_, *quickSummary_);
 }
 
 namespace {
@@ -33,8 +55,8 @@ namespace {
 const QString kApprovalTitle = QStringLiteral("Larkspan \u2014 Quick check-in");
 const QString kIdleTitle = QStringLiteral("Larkspan \u2014 Welcome back");
 
-// Puts `next` in `slot`. The old window may be delivering the click that led here, so it is hidden now
-// and deleted once control is back in the event loop.
+// Puts `next`, or nothing, in `slot`. The old window may be delivering the click that led here, so it is
+// hidden now and deleted once control is back in the event loop.
 void replaceWindow(std::unique_ptr<FloatingWindow>& slot, std::unique_ptr<FloatingWindow> next) {
     if (slot) {
         slot->hide();
@@ -51,7 +73,7 @@ void QtAppPresenter::showApprovalPopup(const ActivityRecord& record, const std::
     auto* controller =
         new ApprovalPopupController(ApprovalPopup(record, categories, topCategoryIDs, std::move(onResolve)));
     auto window = std::make_unique<FloatingWindow>(
-        engine_, QStringLiteral("ApprovalPopupView"),
+        engine(), QStringLiteral("ApprovalPopupView"),
         QVariantMap{{QStringLiteral("controller"), QVariant::fromValue(controller)}}, kApprovalTitle);
     controller->setParent(window.get());
     approvalController_ = controller;
@@ -62,15 +84,15 @@ void QtAppPresenter::showApprovalPopup(const ActivityRecord& record, const std::
 void QtAppPresenter::closeApprovalPopup() {
     if (!approvalWindow_)
         return;
-    approvalWindow_->hide();
     if (approvalController_)
         approvalController_->cardGone();
+    replaceWindow(approvalWindow_, nullptr);
 }
 
 void QtAppPresenter::showReturnFromIdlePopup(double idleDuration, IdleAnswer onResolve) {
     auto* controller = new IdleReturnController(IdleReturn(idleDuration, std::move(onResolve)));
     auto window = std::make_unique<FloatingWindow>(
-        engine_, QStringLiteral("IdleReturnView"),
+        engine(), QStringLiteral("IdleReturnView"),
         QVariantMap{{QStringLiteral("controller"), QVariant::fromValue(controller)}}, kIdleTitle);
     controller->setParent(window.get());
     replaceWindow(idleWindow_, std::move(window));
@@ -78,6 +100,7 @@ void QtAppPresenter::showReturnFromIdlePopup(double idleDuration, IdleAnswer onR
 }
 
 void QtAppPresenter::present(FloatingWindow& window) {
+    releaseWhenHidden(window);
     if (floatingHints_.translucencyAvailable)
         window.setSquareCorners(!floatingHints_.translucencyAvailable());
     if (floatingHints_.showOnAllDesktops) {
@@ -88,16 +111,17 @@ void QtAppPresenter::present(FloatingWindow& window) {
 }
 
 void QtAppPresenter::closeIdlePopup() {
-    if (idleWindow_)
-        idleWindow_->hide();
+    replaceWindow(idleWindow_, nullptr);
 }
 
 void QtAppPresenter::openDashboard() {
     if (!database_ || !sessionManager_)
         return;
-    if (!dashboard_)
-        dashboard_ = std::make_unique<DashboardWindow>(engine_, *database_, *sessionManager_, clock_.now(),
+    if (!dashboard_) {
+        dashboard_ = std::make_unique<DashboardWindow>(engine(), *database_, *sessionManager_, clock_.now(),
                                                        SettingsStore::defaultPath());
+        releaseWhenHidden(dashboard_->window());
+    }
     dashboard_->open();
 }
 
@@ -117,9 +141,21 @@ void QtAppPresenter::closePopover() {
 }
 
 void QtAppPresenter::togglePopover() {
-    if (popover_) {
-        popover_->toggle(tray_.geometry());
+    if (!database_ || !sessionManager_ || !pomodoroTimer_)
+        return;
+    if (!popover_) {
+        quickSummary_ =
+            std::make_unique<QuickSummaryController>(*database_, *sessionManager_, *pomodoroTimer_, clock_);
+        quickSummary_->setOnOpenDashboard([this] {
+            closePopover();
+            if (openDashboard_) {
+                openDashboard_();
+            }
+        });
+        popover_ = std::make_unique<QuickSummaryPopover>(engine(), *quickSummary_);
+        releaseWhenHidden(popover_->window());
     }
+    popover_->toggle(tray_.geometry());
 }
 
 }  // namespace larkspan

@@ -1,9 +1,15 @@
 // The Qt shell's side of AppPresenter: the tray shows the status title, and the floating prompts, the
 // popover and the dashboard are Qt Quick windows sharing one QML engine.
+//
+// Tracking with the tray alone needs no Qt Quick: the engine, the scene graph and each window are
+// made when first shown, so a tracker nobody looks at carries none of them. What a window used is
+// given back when it closes: a card goes with its view, the popover and the dashboard keep their
+// state but release their scene graphs, and the freed heap goes back to the system.
 #pragma once
 
 #include <QPointer>
 #include <QQmlEngine>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -27,7 +33,8 @@ public:
     QtAppPresenter();
 
     TrayIcon& tray() { return tray_; }
-    QQmlEngine& engine() { return engine_; }
+    // The engine of every window, made at the first call.
+    QQmlEngine& engine();
 
     // What the windows show; given once the application has launched, before the event loop runs.
     // Every argument must outlive the presenter.
@@ -57,15 +64,22 @@ public:
     };
     void setFloatingWindowHints(FloatingWindowHints hints) { floatingHints_ = std::move(hints); }
 
-    // The floating prompts' windows as last shown; null before the first. Closing only hides them.
+    // The floating prompts' windows while shown; null before the first and once closed.
     FloatingWindow* approvalWindow() const { return approvalWindow_.get(); }
     FloatingWindow* idleWindow() const { return idleWindow_.get(); }
+    // The popover's window once it has been opened; null before.
+    QQuickWindow* popoverWindow() const { return popover_ ? &popover_->window() : nullptr; }
 
 private:
     void present(FloatingWindow& window);
+    // Gives memory back once `window` is hidden for good or for now.
+    void releaseWhenHidden(QWindow& window);
 
     TrayIcon tray_;
-    QQmlEngine engine_;
+    std::unique_ptr<QQmlEngine> engine_;
+    // Collects the engine's garbage and trims the heap shortly after a window closed; a burst of
+    // closes trims once.
+    QTimer trim_;
     Database* database_ = nullptr;
     SessionManager* sessionManager_ = nullptr;
     PomodoroTimer* pomodoroTimer_ = nullptr;
@@ -73,7 +87,7 @@ private:
     SystemClock clock_;
     std::function<void()> openDashboard_;
     FloatingWindowHints floatingHints_;
-    // Made by attach; the summary refreshes from then on, also while the popover is closed.
+    // Made at the first opening; the summary refreshes from then on, also while the popover is closed.
     std::unique_ptr<QuickSummaryController> quickSummary_;
     std::unique_ptr<QuickSummaryPopover> popover_;
     // Each prompt's last window, which owns its controller. A new prompt of the same kind replaces it.

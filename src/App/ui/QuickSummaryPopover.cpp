@@ -29,6 +29,9 @@ QuickSummaryPopover::QuickSummaryPopover(QQmlEngine& engine, QuickSummaryControl
     window_.resize(kSize);
     window_.setMinimumSize(kSize);
     window_.setMaximumSize(kSize);
+    // Hidden, the window keeps its view but not what drawing it took; the next opening draws anew.
+    window_.setPersistentGraphics(false);
+    window_.setPersistentSceneGraph(false);
 
     QQmlComponent component(&engine);
     component.setData("import Larkspan\nQuickSummaryView {}\n",
@@ -80,6 +83,7 @@ void QuickSummaryPopover::show(const QRect& trayIcon) {
 
 void QuickSummaryPopover::close() {
     window_.hide();
+    window_.releaseResources();
 }
 
 void QuickSummaryPopover::activeChanged() {
