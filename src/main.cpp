@@ -109,8 +109,9 @@ int main(int argc, char** argv) {
     if (session.wayland)
         prompts.emplace(presenter, QDBusConnection::sessionBus());
 
-    auto& startAtLoginSwitch = StartAtLoginController::of(presenter.engine());
+    StartAtLoginController startAtLoginSwitch;
     startAtLoginSwitch.setStartAtLogin(&startAtLogin, notifier.get());
+    StartAtLoginController::share(&startAtLoginSwitch);
     presenter.tray().setStartAtLogin(&startAtLoginSwitch);
 
     auto delegate = std::make_shared<AppDelegate>(

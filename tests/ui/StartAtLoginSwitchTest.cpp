@@ -23,18 +23,21 @@ struct Setup {
     test::MemoryKeyValueStore settings;
     test::RecordingNotifier notifier;
     StartAtLogin startAtLogin{entry, "/usr/bin/larkspan", settings};
+    StartAtLoginController controller;
     QuickScreen screen;
     TrayIcon tray;
+    ~Setup() { StartAtLoginController::share(nullptr); }
 
-    // The switch as the Settings page shows it and a tray menu, both over the screen engine's one controller.
+    // The switch as the Settings page shows it and a tray menu, both over the one shared controller.
     bool open() {
-        StartAtLoginController::of(screen.engine()).setStartAtLogin(&startAtLogin, &notifier);
+        controller.setStartAtLogin(&startAtLogin, &notifier);
+        StartAtLoginController::share(&controller);
         tray.setMenuItems([] {
             return std::vector<MenuItem>{{"Open Dashboard", "d", MenuItem::Action::openDashboard},
                                          {"", "", MenuItem::Action::separator},
                                          {"Quit Larkspan", "q", MenuItem::Action::quit}};
         });
-        tray.setStartAtLogin(&StartAtLoginController::of(screen.engine()));
+        tray.setStartAtLogin(&controller);
         return screen.load("StartAtLoginSwitch", {{"secondaryText", QColor(Qt::gray)}}, {480, 90});
     }
     bool switchOn() const { return screen.find("startAtLoginSwitch")->property("checked").toBool(); }

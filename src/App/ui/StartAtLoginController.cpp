@@ -6,18 +6,16 @@ namespace larkspan {
 
 StartAtLoginController::StartAtLoginController(QObject* parent) : QObject(parent) {}
 
-StartAtLoginController& StartAtLoginController::of(QQmlEngine& engine) {
-    auto* controller = engine.findChild<StartAtLoginController*>(QString(), Qt::FindDirectChildrenOnly);
-    if (!controller) {
-        controller = new StartAtLoginController(&engine);
-        // The engine's QObject tree deletes it; QML must not delete it a second time.
-        QJSEngine::setObjectOwnership(controller, QJSEngine::CppOwnership);
+StartAtLoginController* StartAtLoginController::create(QQmlEngine* engine, QJSEngine*) {
+    if (shared_) {
+        QJSEngine::setObjectOwnership(shared_, QJSEngine::CppOwnership);
+        return shared_;
     }
-    return *controller;
+    return new StartAtLoginController(engine);
 }
 
-StartAtLoginController* StartAtLoginController::create(QQmlEngine* engine, QJSEngine*) {
-    return &of(*engine);
+void StartAtLoginController::share(StartAtLoginController* controller) {
+    shared_ = controller;
 }
 
 void StartAtLoginController::setStartAtLogin(StartAtLogin* startAtLogin, Notifier* notifier) {

@@ -1,5 +1,5 @@
 // The "Start Larkspan at login" switch, shared by the tray menu's checkable entry and the Settings
-// page's Switch: one per QML engine, a QML singleton, so both show the same state. It reads the
+// page's Switch: one object, shared with QML as a singleton, so both show the same state. It reads the
 // entry's presence again on refresh(), which the menu and the page call as they open, so a file
 // removed by hand shows as off. Until setStartAtLogin() gives it the logic it is unavailable and
 // the switch stays hidden.
@@ -28,9 +28,12 @@ class StartAtLoginController final : public QObject {
     Q_PROPERTY(QString problem READ problem NOTIFY changed)
 
 public:
-    // The engine's one controller, made on first use and owned by the engine.
-    static StartAtLoginController& of(QQmlEngine& engine);
+    explicit StartAtLoginController(QObject* parent = nullptr);
+
+    // QML's instance: the shared one, else an unavailable one owned by the engine.
     static StartAtLoginController* create(QQmlEngine* engine, QJSEngine*);
+    // The instance every engine made afterwards shows; it must outlive them.
+    static void share(StartAtLoginController* controller);
 
     // `startAtLogin` and `notifier` (which also carries failures, for the menu has no room for them)
     // must outlive the controller or be replaced first.
@@ -47,7 +50,7 @@ signals:
     void changed();
 
 private:
-    explicit StartAtLoginController(QObject* parent);
+    static inline StartAtLoginController* shared_ = nullptr;
 
     StartAtLogin* startAtLogin_ = nullptr;
     Notifier* notifier_ = nullptr;
