@@ -43,6 +43,7 @@ std::string formatSeconds(std::int64_t seconds);
 std::vector<ActivityRecord> recentActivities(std::vector<ActivityRecord> activities);
 
 struct RecentRow {
+    std::int64_t id = -1;  // the activity's row id
     std::string icon;  // the category's emoji, or "❓"
     std::string title;
     Date startTime = 0;

@@ -5,8 +5,8 @@
 #include <QSvgRenderer>
 #include <QTest>
 
-#include "App/ui/Icons.h"
-#include "App/ui/SymbolImageProvider.h"
+#include "Ui/Icons.h"
+#include "Ui/SymbolImageProvider.h"
 #include "QuickScreen.h"
 
 using namespace larkspan;

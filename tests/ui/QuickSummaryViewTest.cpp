@@ -57,7 +57,7 @@ struct Day {
     }
 
     bool load() {
-        QSignalSpy loaded(&controller, &QuickSummaryController::summaryChanged);
+        QSignalSpy loaded(&controller, &QuickSummaryController::dayChanged);
         controller.load();
         return loaded.wait(5000);
     }
@@ -258,7 +258,7 @@ private slots:
         QCOMPARE(refresh->interval(), 30'000);
         QVERIFY(refresh->isActive());
         day.add(11, 0, 600, "Code", "refresh.cpp", category_id::coding);
-        QSignalSpy loaded(&day.controller, &QuickSummaryController::summaryChanged);
+        QSignalSpy loaded(&day.controller, &QuickSummaryController::dayChanged);
         refresh->setInterval(50);
         QVERIFY(loaded.wait(5'000));
         QCOMPARE(screen.text("recentTitle0"), QStringLiteral("refresh.cpp"));

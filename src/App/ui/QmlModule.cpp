@@ -2,7 +2,7 @@
 
 #include <QQmlEngine>
 
-#include "App/ui/SymbolImageProvider.h"
+#include "Ui/SymbolImageProvider.h"
 
 // Generated with the module; the engine calls it on the first `import Larkspan`.
 void qml_register_types_Larkspan();

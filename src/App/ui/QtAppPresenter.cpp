@@ -24,6 +24,10 @@ void QtAppPresenter::attach(Database& database, SessionManager& sessionManager,
             openDashboard_();
         }
     });
+    quickSummary_->setOnOpenReview([this] {
+        closePopover();
+        openReview();
+    });
     popover_ = std::make_unique<QuickSummaryPopover>(engine_, *quickSummary_);
 }
 
@@ -99,6 +103,12 @@ void QtAppPresenter::openDashboard() {
         dashboard_ = std::make_unique<DashboardWindow>(engine_, *database_, *sessionManager_, clock_.now(),
                                                        SettingsStore::defaultPath());
     dashboard_->open();
+}
+
+void QtAppPresenter::openReview() {
+    openDashboard();
+    if (dashboard_)
+        dashboard_->controller().openReview();
 }
 
 void QtAppPresenter::openDashboardWithoutTray() {
