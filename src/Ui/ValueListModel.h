@@ -5,8 +5,8 @@
 // setRows() compares the new rows with the shown ones by key and reports the difference row by row —
 // removals, moves, insertions and dataChanged for only the roles whose values differ — so a view keeps
 // its scroll position, its delegates and its animations. Only a list in which no key survives (another
-// day, another period) is a new list and resets the model. Rows are expected to have distinct keys; a
-// repeated key is shown as another row, never lost.
+// day, another period) is a new list and resets the model; emptying it removes the rows. Rows are expected to
+// have distinct keys; a repeated key is shown as another row, never lost.
 //
 // Made for lists of tens to a few thousand rows: an update is quadratic in the worst case (every row
 // moved) and linear when rows are only inserted, removed or changed in place.
@@ -67,9 +67,9 @@ public:
 
     void setRows(std::vector<Row> next) {
         const int before = count();
-        if (!rows_.empty() && std::none_of(rows_.begin(), rows_.end(), [&next](const Row& row) {
-                return findKey(next, 0, row.key) < next.size();
-            })) {
+        if (!rows_.empty() && !next.empty() &&
+            std::none_of(rows_.begin(), rows_.end(),
+                         [&next](const Row& row) { return findKey(next, 0, row.key) < next.size(); })) {
             beginResetModel();
             rows_ = std::move(next);
             endResetModel();

@@ -255,6 +255,11 @@ private slots:
         QTest::ignoreMessage(QtWarningMsg, "This plugin does not support raise()");
         presenter.openDashboard();
         QCOMPARE(shownDashboard(), window);
+        // The popover's pending banner asks for the same window on the review screen.
+        QTest::ignoreMessage(QtWarningMsg, "This plugin does not support raise()");
+        presenter.openReview();
+        QCOMPARE(shownDashboard(), window);
+        QCOMPARE(controller->selectedTab(), QStringLiteral("Review"));
     }
 
     void geometryIsKeptUnderDashboardAndRestored() {

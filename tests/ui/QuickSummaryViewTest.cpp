@@ -2,8 +2,8 @@
 // pending rows, the productivity colours at their thresholds, the timer's buttons in each state, an
 // empty day, "Open Dashboard", and the popover window opening against the tray icon.
 #include <QSignalSpy>
-#include <QTimer>
 #include <QTest>
+#include <QTimer>
 
 #include <QThreadPool>
 #include "ActivityBuilder.h"
@@ -241,15 +241,31 @@ private slots:
         screenshots(screen, "empty-day");
     }
 
-    void openDashboardRunsTheActionAndRefreshesEveryThirtySeconds() {
+    void buttonsRunTheirActionsAndTheViewFollowsTheTrackerAtOnce() {
         Day day;
         int opened = 0;
+        int reviewed = 0;
         day.controller.setOnOpenDashboard([&opened] { ++opened; });
+        day.controller.setOnOpenReview([&reviewed] { ++reviewed; });
         QuickScreen screen;
         QVERIFY(screen.load("QuickSummaryView", {{"controller", QVariant::fromValue(&day.controller)}},
                             kPopoverSize));
         QCOMPARE(screen.text("openDashboardButton"), QStringLiteral("Open Dashboard"));
         QVERIFY(screen.click("openDashboardButton"));
+        QCOMPARE(opened, 1);
+        // The session and the pending count show as they are published, with no load in between.
+        RawActivity sample;
+        sample.appName = "kitty";
+        sample.windowTitle = "~/src/larkspan";
+        day.manager->process(sample);
+        day.mainQueue.drain();
+        day.manager->pendingApprovalCount.set(2);
+        QCOMPARE(screen.text("sessionTitle"), QStringLiteral("~/src/larkspan"));
+        QVERIFY(visible(screen, "pendingBanner"));
+        QCOMPARE(screen.text("pendingBannerHint"), QStringLiteral("Tap to categorize them"));
+        screen.grab();  // lays the banner out
+        QVERIFY(screen.click("pendingBanner"));
+        QCOMPARE(reviewed, 1);
         QCOMPARE(opened, 1);
         // The refresh runs every 30 seconds without anyone asking: a row stored meanwhile appears.
         // The test shortens the wait, not the behaviour.
