@@ -44,7 +44,7 @@ std::vector<ActivityRecord> recentActivities(std::vector<ActivityRecord> activit
 
 struct RecentRow {
     std::int64_t id = -1;  // the activity's row id
-    std::string icon;  // the category's emoji, or "❓"
+    std::string icon;      // the category's emoji, or "❓"
     std::string title;
     Date startTime = 0;
     std::string duration;  // formatSeconds

@@ -5,9 +5,9 @@
 #include <QSvgRenderer>
 #include <QTest>
 
+#include "QuickScreen.h"
 #include "Ui/Icons.h"
 #include "Ui/SymbolImageProvider.h"
-#include "QuickScreen.h"
 
 using namespace larkspan;
 

@@ -56,7 +56,8 @@ QuickSummaryController::QuickSummaryController(Database& database, SessionManage
     connect(&refresh_, &QTimer::timeout, this, &QuickSummaryController::load);
     refresh_.start();
     // Each subscription delivers its current value at once, which fills the items.
-    subscriptions_.push_back(sessionManager_.currentSession.subscribe([this](const auto&) { trackerMoved(); }));
+    subscriptions_.push_back(
+        sessionManager_.currentSession.subscribe([this](const auto&) { trackerMoved(); }));
     subscriptions_.push_back(
         sessionManager_.pendingApprovalCount.subscribe([this](std::int64_t) { trackerMoved(); }));
     // progress follows secondsLeft; the mode's colour and icon follow mode.
@@ -122,15 +123,13 @@ void QuickSummaryController::assign(Loaded loaded) {
 
 void QuickSummaryController::trackerMoved() {
     const SessionRow row = sessionRow(sessionManager_.currentSession.get(), categories_);
-    const bool sessionMoved = replace(session_, SummarySession{toQString(row.icon), toQString(row.title),
-                                                               toQString(row.subtitle),
-                                                               toQColor(row.dot.value_or(Palette::grey)),
-                                                               row.hasSession});
+    const bool sessionMoved =
+        replace(session_, SummarySession{toQString(row.icon), toQString(row.title), toQString(row.subtitle),
+                                         toQColor(row.dot.value_or(Palette::grey)), row.hasSession});
     const std::int64_t count = sessionManager_.pendingApprovalCount.get();
-    const bool pendingMoved = replace(pending_, SummaryPending{static_cast<int>(std::clamp<std::int64_t>(
-                                                                   count, 0, INT32_MAX)),
-                                                               toQString(pendingBannerText(count)),
-                                                               toQString(pendingFooterText(count))});
+    const bool pendingMoved = replace(
+        pending_, SummaryPending{static_cast<int>(std::clamp<std::int64_t>(count, 0, INT32_MAX)),
+                                 toQString(pendingBannerText(count)), toQString(pendingFooterText(count))});
     if (sessionMoved || pendingMoved)
         emit trackerChanged();
 }
@@ -146,8 +145,8 @@ void QuickSummaryController::timerMoved() {
 }
 
 SummaryLabels QuickSummaryController::labels() const {
-    return {summary_text::today,          summary_text::tracked,     summary_text::breakdownTitle,
-            summary_text::noDataYet,      summary_text::recentTitle, summary_text::nothingTracked,
+    return {summary_text::today,           summary_text::tracked,      summary_text::breakdownTitle,
+            summary_text::noDataYet,       summary_text::recentTitle,  summary_text::nothingTracked,
             summary_text::tapToCategorize, summary_text::openDashboard};
 }
 
