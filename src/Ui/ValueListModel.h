@@ -51,8 +51,6 @@ class ValueListModel final : public ValueListModelBase {
 public:
     explicit ValueListModel(QObject* parent = nullptr) : ValueListModelBase(Row::staticMetaObject, parent) {}
 
-    const std::vector<Row>& rows() const { return rows_; }
-
     int rowCount(const QModelIndex& parent = QModelIndex()) const override {
         return parent.isValid() ? 0 : static_cast<int>(rows_.size());
     }
