@@ -1,5 +1,7 @@
 #include "Analytics/AnalyticsBreakdowns.h"
 
+#include "Classification/Palette.h"
+
 #include <algorithm>
 #include <unordered_map>
 
@@ -10,7 +12,6 @@ namespace {
 const char* const kUnknownCategoryName = "Other";
 const char* const kUnknownCategoryIcon = "❓";
 const char* const kUnknownAppIcon = "📦";
-const char* const kGrayHex = "#8E8E93";
 
 double fractionOf(std::int64_t part, std::int64_t whole) {
     return whole > 0 ? static_cast<double>(part) / static_cast<double>(whole) : 0.0;
@@ -47,7 +48,7 @@ std::vector<CategoryFigure> categoryFigures(const std::vector<ActivityRecord>& r
         } else {
             figure.name = kUnknownCategoryName;
             figure.icon = kUnknownCategoryIcon;
-            figure.color = Color::fromHex(kGrayHex);
+            figure.color = Palette::grey;
         }
     }
     return figures;

@@ -1,5 +1,6 @@
 #include "App/Dashboard.h"
 #include "App/Glyphs.h"
+#include "Classification/Palette.h"
 
 #include <algorithm>
 
@@ -72,7 +73,7 @@ std::optional<LiveSessionCard> liveSessionCard(const std::optional<ActivityRecor
     card.icon = category ? category->icon : glyph::stopwatch;
     card.title = session->displayTitle();
     card.status = std::string("Live \u00B7 ") + (category ? category->name : "Tracking");
-    card.color = category ? category->color() : kUnknownCategoryGrey;
+    card.color = category ? category->color() : Palette::grey;
     return card;
 }
 

@@ -51,9 +51,6 @@ struct LiveSessionCard {
     bool operator==(const LiveSessionCard&) const = default;
 };
 
-// The grey of a session whose category is unknown (#8E8E93).
-inline constexpr Color kUnknownCategoryGrey{142 / 255.0, 142 / 255.0, 147 / 255.0};
-
 // The card for `session`, its category looked up by id in `categories`; none without a session.
 std::optional<LiveSessionCard> liveSessionCard(const std::optional<ActivityRecord>& session,
                                                const std::vector<Category>& categories);
@@ -64,9 +61,6 @@ struct ReviewButton {
     std::string detail;  // "3 need categorizing"
     bool operator==(const ReviewButton&) const = default;
 };
-
-// The review button's orange (#FF9500): its symbol, and its background selected or at 10 % when not.
-inline constexpr Color kReviewOrange{1.0, 149 / 255.0, 0.0};
 
 // The button for `pendingCount` waiting activities; none below 1.
 std::optional<ReviewButton> reviewButton(std::int64_t pendingCount);

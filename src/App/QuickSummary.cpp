@@ -1,5 +1,6 @@
 #include "App/QuickSummary.h"
 #include "App/Glyphs.h"
+#include "Classification/Palette.h"
 
 #include <algorithm>
 #include <cmath>
@@ -34,7 +35,7 @@ std::vector<RecentRow> recentRows(const std::vector<ActivityRecord>& recent,
             break;
         }
         const Category* category = categoryWithID(categories, activity.categoryID);
-        rows.push_back({category ? category->icon : glyph::questionMark, activity.displayTitle(),
+        rows.push_back({activity.id, category ? category->icon : glyph::questionMark, activity.displayTitle(),
                         activity.startTime, formatSeconds(activity.durationSeconds)});
     }
     return rows;
@@ -79,13 +80,13 @@ std::optional<ProductivityLine> productivityLine(const std::optional<DaySummary>
 Color toneColor(ProductivityTone tone) {
     switch (tone) {
         case ProductivityTone::green:
-            return Color::fromHex("#34C759");
+            return Palette::green;
         case ProductivityTone::orange:
-            return Color::fromHex("#FF9500");
+            return Palette::orange;
         case ProductivityTone::red:
             break;
     }
-    return Color::fromHex("#FF3B30");
+    return Palette::red;
 }
 
 SessionRow sessionRow(const std::optional<ActivityRecord>& session, const CategoriesByID& categories) {
@@ -108,7 +109,7 @@ TimerControls timerControls(PomodoroTimer::Mode mode, PomodoroTimer::RunState st
     const bool running = state == PomodoroTimer::RunState::running;
     return TimerControls{mode == PomodoroTimer::Mode::focus ? glyph::tomato : glyph::cup,
                          running ? "pause.fill" : "play.fill", running,
-                         state != PomodoroTimer::RunState::idle, running ? 0.06 : 0.0};
+                         state != PomodoroTimer::RunState::idle, running ? Palette::running : 0.0};
 }
 
 std::string pendingBannerText(std::int64_t count) {

@@ -42,7 +42,8 @@ std::string formatSeconds(std::int64_t seconds);
 std::vector<ActivityRecord> recentActivities(std::vector<ActivityRecord> activities);
 
 struct RecentRow {
-    std::string icon;  // the category's emoji, or "❓"
+    std::int64_t id = -1;  // the activity's row id
+    std::string icon;      // the category's emoji, or "❓"
     std::string title;
     Date startTime = 0;
     std::string duration;  // formatSeconds

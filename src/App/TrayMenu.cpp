@@ -54,13 +54,13 @@ void TrayMenu::updateButton(const std::optional<ActivityRecord>& session, std::i
 }
 
 std::vector<MenuItem> TrayMenu::contextMenuItems() const {
-    std::vector<MenuItem> items{{"Open Dashboard", "d", MenuItem::Action::openDashboard}};
+    std::vector<MenuItem> items{{"Open Dashboard", MenuItem::Action::openDashboard}};
     const auto pending = sessionManager_.pendingApprovalCount.get();
     if (pending > 0)
         items.push_back(
-            {"Review " + std::to_string(pending) + " Pending\u2026", "", MenuItem::Action::openDashboard});
-    items.push_back({"", "", MenuItem::Action::separator});
-    items.push_back({"Quit Larkspan", "q", MenuItem::Action::quit});
+            {"Review " + std::to_string(pending) + " Pending\u2026", MenuItem::Action::openDashboard});
+    items.push_back({"", MenuItem::Action::separator});
+    items.push_back({"Quit Larkspan", MenuItem::Action::quit});
     return items;
 }
 

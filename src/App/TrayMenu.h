@@ -21,8 +21,9 @@ namespace larkspan {
 
 struct MenuItem {
     enum class Action { openDashboard, quit, separator };
-    std::string title;          // empty for the separator
-    std::string keyEquivalent;  // "d", "q" or none
+    // A tray menu has no keyboard shortcuts: the desktop opens it with the pointer, and no key
+    // reaches it while it is closed, so entries carry none.
+    std::string title;  // empty for the separator
     Action action = Action::separator;
     bool operator==(const MenuItem&) const = default;
 };

@@ -1,5 +1,7 @@
 #include "Focus/PomodoroMode.h"
 
+#include "Classification/Palette.h"
+
 namespace larkspan {
 
 const char* rawValue(PomodoroMode mode) {
@@ -17,13 +19,13 @@ const char* rawValue(PomodoroMode mode) {
 Color color(PomodoroMode mode) {
     switch (mode) {
         case PomodoroMode::shortBreak:
-            return {0.25, 0.6, 0.5};
+            return Palette::shortBreakTeal;
         case PomodoroMode::longBreak:
-            return {0.26, 0.47, 0.7};
+            return Palette::longBreakBlue;
         case PomodoroMode::focus:
             break;
     }
-    return {0.78, 0.22, 0.22};
+    return Palette::focusRed;
 }
 
 std::int64_t defaultMinutes(PomodoroMode mode) {

@@ -125,7 +125,7 @@ private slots:
         QVERIFY(screen.find("category-1"));
         QVERIFY(!screen.find("category-2"));
         QCOMPARE(screen.find("category-1")->property("text").toString(), QStringLiteral("AI Tools"));
-        QCOMPARE(controller.menuCategories().size(), 19);
+        QCOMPARE(controller.menuCategories()->count(), 19);
         for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
             screen.setColorScheme(scheme);
             QVERIFY(screen.saveScreenshot("approval", "two"));

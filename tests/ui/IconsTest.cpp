@@ -5,9 +5,9 @@
 #include <QSvgRenderer>
 #include <QTest>
 
-#include "App/ui/Icons.h"
-#include "App/ui/SymbolImageProvider.h"
 #include "QuickScreen.h"
+#include "Ui/Icons.h"
+#include "Ui/SymbolImageProvider.h"
 
 using namespace larkspan;
 

@@ -61,7 +61,7 @@ struct Day {
     }
 
     bool load() {
-        QSignalSpy loaded(&controller, &QuickSummaryController::summaryChanged);
+        QSignalSpy loaded(&controller, &QuickSummaryController::dayChanged);
         controller.load();
         return loaded.wait(5000);
     }
@@ -251,15 +251,31 @@ private slots:
         screenshots(screen, "empty-day");
     }
 
-    void openDashboardRunsTheActionAndRefreshesEveryThirtySeconds() {
+    void buttonsRunTheirActionsAndTheViewFollowsTheTrackerAtOnce() {
         Day day;
         int opened = 0;
+        int reviewed = 0;
         day.controller.setOnOpenDashboard([&opened] { ++opened; });
+        day.controller.setOnOpenReview([&reviewed] { ++reviewed; });
         QuickScreen screen;
         QVERIFY(screen.load("QuickSummaryView", {{"controller", QVariant::fromValue(&day.controller)}},
                             kPopoverSize));
         QCOMPARE(screen.text("openDashboardButton"), QStringLiteral("Open Dashboard"));
         QVERIFY(screen.click("openDashboardButton"));
+        QCOMPARE(opened, 1);
+        // The session and the pending count show as they are published, with no load in between.
+        RawActivity sample;
+        sample.appName = "kitty";
+        sample.windowTitle = "~/src/larkspan";
+        day.manager->process(sample);
+        day.mainQueue.drain();
+        day.manager->pendingApprovalCount.set(2);
+        QCOMPARE(screen.text("sessionTitle"), QStringLiteral("~/src/larkspan"));
+        QVERIFY(visible(screen, "pendingBanner"));
+        QCOMPARE(screen.text("pendingBannerHint"), QStringLiteral("Tap to categorize them"));
+        screen.grab();  // lays the banner out
+        QVERIFY(screen.click("pendingBanner"));
+        QCOMPARE(reviewed, 1);
         QCOMPARE(opened, 1);
         // The refresh runs every 30 seconds without anyone asking: a row stored meanwhile appears.
         // The test shortens the wait, not the behaviour.
@@ -268,7 +284,7 @@ private slots:
         QCOMPARE(refresh->interval(), 30'000);
         QVERIFY(refresh->isActive());
         day.add(11, 0, 600, "Code", "refresh.cpp", category_id::coding);
-        QSignalSpy loaded(&day.controller, &QuickSummaryController::summaryChanged);
+        QSignalSpy loaded(&day.controller, &QuickSummaryController::dayChanged);
         refresh->setInterval(50);
         QVERIFY(loaded.wait(5'000));
         QCOMPARE(screen.text("recentTitle0"), QStringLiteral("refresh.cpp"));

@@ -20,10 +20,10 @@ private slots:
         int asked = 0;
         tray.setMenuItems([&asked] {
             ++asked;
-            return std::vector<MenuItem>{{"Open Dashboard", "d", MenuItem::Action::openDashboard},
-                                         {"Review 2 Pending\u2026", "", MenuItem::Action::openDashboard},
-                                         {"", "", MenuItem::Action::separator},
-                                         {"Quit Larkspan", "q", MenuItem::Action::quit}};
+            return std::vector<MenuItem>{{"Open Dashboard", MenuItem::Action::openDashboard},
+                                         {"Review 2 Pending\u2026", MenuItem::Action::openDashboard},
+                                         {"", MenuItem::Action::separator},
+                                         {"Quit Larkspan", MenuItem::Action::quit}};
         });
         QSignalSpy dashboard(&tray, &TrayIcon::openDashboardRequested);
         QSignalSpy quit(&tray, &TrayIcon::quitRequested);
@@ -34,9 +34,9 @@ private slots:
         QCOMPARE(actions.size(), 4);
         QCOMPARE(actions[1]->text(), QString::fromUtf8("Review 2 Pending\u2026"));
         QVERIFY(actions[2]->isSeparator());
-        QCOMPARE(actions[0]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_D));
-        QVERIFY(actions[1]->shortcut().isEmpty());
-        QCOMPARE(actions[3]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q));
+        // A tray menu shows no shortcut, since none would work.
+        for (const QAction* action : actions)
+            QVERIFY(action->shortcut().isEmpty());
         actions[0]->trigger();
         actions[1]->trigger();
         actions[3]->trigger();

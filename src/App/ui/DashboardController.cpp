@@ -1,38 +1,45 @@
 #include "App/ui/DashboardController.h"
 
-#include <QVariantMap>
+#include "Classification/Palette.h"
+#include "Ui/QtConversion.h"
 
 namespace larkspan {
 
-namespace {
-
-QString qs(const std::string& text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-QColor toQColor(const Color& color) {
-    return QColor::fromRgbF(static_cast<float>(color.red), static_cast<float>(color.green),
-                            static_cast<float>(color.blue));
-}
-
-}  // namespace
-
 DashboardController::DashboardController(Database& database, SessionManager& sessionManager, Date now,
                                          QObject* parent)
-    : QObject(parent), database_(database) {
+    : QObject(parent), database_(database), tabs_(this) {
     selection_.date = now;
+    std::vector<SidebarTab> tabs;
+    for (DashTab tab : mainCases())
+        tabs.push_back({toQString(label(tab)), toQString(label(tab)), toQString(symbolName(tab))});
+    tabs_.setRows(std::move(tabs));
     sessionSubscription_ = sessionManager.currentSession.subscribe([this](const auto& session) {
         session_ = session;
-        emit sidebarChanged();
+        recomputeSidebar();
     });
     countSubscription_ = sessionManager.pendingApprovalCount.subscribe([this](std::int64_t count) {
         pendingCount_ = count;
-        emit sidebarChanged();
+        recomputeSidebar();
     });
 }
 
+void DashboardController::recomputeSidebar() {
+    SidebarLiveCard card{false, {}, {}, {}, toQColor(Palette::grey)};
+    if (const auto shown = liveSessionCard(session_, categories_))
+        card = {true, toQString(shown->icon), toQString(shown->title), toQString(shown->status),
+                toQColor(shown->color)};
+    SidebarReviewButton button;
+    if (const auto shown = larkspan::reviewButton(pendingCount_))
+        button = {true, toQString(shown->title), toQString(shown->detail)};
+    if (card == liveCard_ && button == reviewButton_)
+        return;
+    liveCard_ = std::move(card);
+    reviewButton_ = std::move(button);
+    emit sidebarChanged();
+}
+
 QString DashboardController::selectedTab() const {
-    return selection_.tab ? QString::fromLatin1(label(*selection_.tab)) : QString();
+    return selection_.tab ? toQString(label(*selection_.tab)) : QString();
 }
 
 void DashboardController::setSelectedTab(const QString& text) {
@@ -46,66 +53,24 @@ void DashboardController::setSelectedDate(double date) {
 }
 
 QString DashboardController::shownTab() const {
-    return QString::fromLatin1(label(larkspan::shownTab(selection_.tab)));
+    return toQString(label(larkspan::shownTab(selection_.tab)));
 }
 
 QString DashboardController::shownSymbol() const {
-    return QString::fromLatin1(symbolName(larkspan::shownTab(selection_.tab)));
+    return toQString(symbolName(larkspan::shownTab(selection_.tab)));
 }
 
 QString DashboardController::shownComingLine() const {
-    return QString::fromUtf8(comingLine(larkspan::shownTab(selection_.tab)));
-}
-
-QVariantList DashboardController::tabs() const {
-    QVariantList list;
-    for (DashTab tab : mainCases())
-        list.append(QVariantMap{{QStringLiteral("label"), QString::fromLatin1(label(tab))},
-                                {QStringLiteral("symbol"), QString::fromLatin1(symbolName(tab))}});
-    return list;
-}
-
-QString DashboardController::sessionIcon() const {
-    const auto shown = card();
-    return shown ? qs(shown->icon) : QString();
-}
-
-QString DashboardController::sessionTitle() const {
-    const auto shown = card();
-    return shown ? qs(shown->title) : QString();
-}
-
-QString DashboardController::sessionStatus() const {
-    const auto shown = card();
-    return shown ? qs(shown->status) : QString();
-}
-
-QColor DashboardController::sessionColor() const {
-    const auto shown = card();
-    return toQColor(shown ? shown->color : kUnknownCategoryGrey);
-}
-
-QString DashboardController::reviewTitle() const {
-    const auto button = reviewButton(pendingCount_);
-    return button ? qs(button->title) : QString();
-}
-
-QString DashboardController::reviewDetail() const {
-    const auto button = reviewButton(pendingCount_);
-    return button ? qs(button->detail) : QString();
+    return toQString(comingLine(larkspan::shownTab(selection_.tab)));
 }
 
 QString DashboardController::reviewTab() const {
-    return QString::fromLatin1(label(DashTab::pendingReview));
-}
-
-QColor DashboardController::reviewColor() const {
-    return toQColor(kReviewOrange);
+    return toQString(label(DashTab::pendingReview));
 }
 
 void DashboardController::loadCategories() {
     categories_ = database_.fetchCategories();
-    emit sidebarChanged();
+    recomputeSidebar();
 }
 
 void DashboardController::openReview() {

@@ -2,21 +2,24 @@
 // across closing the window — the selected tab, the selected date and the categories — and follows
 // the tracker's published session and pending count to redraw the sidebar. The texts and colours come
 // from App/Dashboard; the view only lays them out.
+//
+// Each cause of change sends one signal: selectionChanged for the tab or the date, sidebarChanged for
+// the session, the pending count or the categories.
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QColor>
 #include <QObject>
 #include <QString>
-#include <QVariantList>
 
 #include <optional>
 #include <vector>
 
 #include "App/Dashboard.h"
+#include "App/ui/DashboardItems.h"
 #include "Data/Database.h"
 #include "Platform/Subscription.h"
 #include "Tracking/SessionManager.h"
+#include "Ui/ValueListModel.h"
 
 namespace larkspan {
 
@@ -33,20 +36,12 @@ class DashboardController final : public QObject {
     Q_PROPERTY(QString shownTab READ shownTab NOTIFY selectionChanged)
     Q_PROPERTY(QString shownSymbol READ shownSymbol NOTIFY selectionChanged)
     Q_PROPERTY(QString shownComingLine READ shownComingLine NOTIFY selectionChanged)
-    // The sidebar's list: one map {label, symbol} per main tab.
-    Q_PROPERTY(QVariantList tabs READ tabs CONSTANT)
+    // The sidebar's list of the main tabs.
+    Q_PROPERTY(larkspan::ValueListModelBase* tabs READ tabs CONSTANT)
 
-    Q_PROPERTY(bool hasSession READ hasSession NOTIFY sidebarChanged)
-    Q_PROPERTY(QString sessionIcon READ sessionIcon NOTIFY sidebarChanged)
-    Q_PROPERTY(QString sessionTitle READ sessionTitle NOTIFY sidebarChanged)
-    Q_PROPERTY(QString sessionStatus READ sessionStatus NOTIFY sidebarChanged)
-    Q_PROPERTY(QColor sessionColor READ sessionColor NOTIFY sidebarChanged)
-
-    Q_PROPERTY(bool hasReviewButton READ hasReviewButton NOTIFY sidebarChanged)
-    Q_PROPERTY(QString reviewTitle READ reviewTitle NOTIFY sidebarChanged)
-    Q_PROPERTY(QString reviewDetail READ reviewDetail NOTIFY sidebarChanged)
+    Q_PROPERTY(SidebarLiveCard liveCard READ liveCard NOTIFY sidebarChanged)
+    Q_PROPERTY(SidebarReviewButton reviewButton READ reviewButton NOTIFY sidebarChanged)
     Q_PROPERTY(QString reviewTab READ reviewTab CONSTANT)
-    Q_PROPERTY(QColor reviewColor READ reviewColor CONSTANT)
 
 public:
     // `database` and `sessionManager` must outlive the controller. `now` (seconds since 1970) is the
@@ -61,19 +56,11 @@ public:
     QString shownTab() const;
     QString shownSymbol() const;
     QString shownComingLine() const;
-    QVariantList tabs() const;
+    ValueListModelBase* tabs() { return &tabs_; }
 
-    bool hasSession() const { return card().has_value(); }
-    QString sessionIcon() const;
-    QString sessionTitle() const;
-    QString sessionStatus() const;
-    QColor sessionColor() const;
-
-    bool hasReviewButton() const { return reviewButton(pendingCount_).has_value(); }
-    QString reviewTitle() const;
-    QString reviewDetail() const;
+    const SidebarLiveCard& liveCard() const { return liveCard_; }
+    const SidebarReviewButton& reviewButton() const { return reviewButton_; }
     QString reviewTab() const;
-    QColor reviewColor() const;
 
     const std::vector<Category>& categories() const { return categories_; }
 
@@ -86,18 +73,20 @@ public:
 
 signals:
     void selectionChanged();
-    // The session, the pending count or the categories changed.
     void sidebarChanged();
 
 private:
-    std::optional<LiveSessionCard> card() const { return liveSessionCard(session_, categories_); }
+    void recomputeSidebar();
 
     Database& database_;
     DashboardSelection selection_;
     std::vector<Category> categories_;
+    ValueListModel<SidebarTab> tabs_;
     // The tracker's values as last published; copies, so the sidebar never reads the manager itself.
     std::optional<ActivityRecord> session_;
     std::int64_t pendingCount_ = 0;
+    SidebarLiveCard liveCard_;
+    SidebarReviewButton reviewButton_;
     Subscription sessionSubscription_;
     Subscription countSubscription_;
 };

@@ -9,13 +9,11 @@ Rectangle {
     id: card
 
     required property DashboardController controller
-    required property color secondaryText
-
-    readonly property color tint: controller.sessionColor
+    readonly property var shown: controller.liveCard
 
     implicitHeight: content.implicitHeight + 24
     radius: 10
-    color: Qt.rgba(tint.r, tint.g, tint.b, 0.12)
+    color: Theme.tint(shown.color, Theme.wash)
 
     RowLayout {
         id: content
@@ -23,14 +21,12 @@ Rectangle {
         anchors.margins: 12
         spacing: 10
 
-        Text {
+        EmojiLabel {
             objectName: "liveIcon"
             Layout.alignment: Qt.AlignVCenter
             Layout.preferredWidth: 32
-            horizontalAlignment: Text.AlignHCenter
-            text: card.controller.sessionIcon
+            text: card.shown.icon
             font.pixelSize: 26
-            font.family: "Noto Color Emoji"
         }
 
         ColumnLayout {
@@ -40,12 +36,12 @@ Rectangle {
             Label {
                 objectName: "liveTitle"
                 Layout.fillWidth: true
-                text: card.controller.sessionTitle
+                text: card.shown.title
                 elide: Text.ElideRight
                 maximumLineCount: 1
                 textFormat: Text.PlainText
                 color: palette.windowText
-                font.pixelSize: 13
+                font.pixelSize: Theme.fontBody
                 font.weight: Font.DemiBold
             }
             RowLayout {
@@ -57,16 +53,16 @@ Rectangle {
                     implicitWidth: 8
                     implicitHeight: 8
                     radius: 4
-                    color: card.tint
+                    color: card.shown.color
                 }
                 Label {
                     objectName: "liveStatus"
                     Layout.fillWidth: true
-                    text: card.controller.sessionStatus
+                    text: card.shown.status
                     elide: Text.ElideRight
                     textFormat: Text.PlainText
-                    color: card.secondaryText
-                    font.pixelSize: 11
+                    color: Theme.secondaryText
+                    font.pixelSize: Theme.fontCaption
                 }
             }
         }

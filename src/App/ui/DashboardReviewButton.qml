@@ -9,14 +9,15 @@ Rectangle {
     id: button
 
     required property DashboardController controller
-    required property color secondaryText
 
     readonly property bool selected: controller.shownTab === controller.reviewTab
-    readonly property color orange: controller.reviewColor
 
     implicitHeight: content.implicitHeight + 20
     radius: 8
-    color: selected ? orange : Qt.rgba(orange.r, orange.g, orange.b, 0.1)
+    color: selected ? Theme.orange : Theme.tint(Theme.orange, Theme.faintWash)
+    Accessible.role: Accessible.Button
+    Accessible.name: controller.reviewButton.title + ", " + controller.reviewButton.detail
+    Accessible.onPressAction: controller.openReview()
 
     RowLayout {
         id: content
@@ -31,7 +32,7 @@ Rectangle {
             name: "exclamationmark.circle.fill"
             size: 20
             // On the orange background an orange symbol would vanish.
-            color: button.selected ? "white" : button.orange
+            color: button.selected ? Theme.onColor : Theme.orange
         }
         ColumnLayout {
             Layout.fillWidth: true
@@ -40,19 +41,19 @@ Rectangle {
             Label {
                 objectName: "reviewTitle"
                 Layout.fillWidth: true
-                text: button.controller.reviewTitle
+                text: button.controller.reviewButton.title
                 elide: Text.ElideRight
-                color: button.selected ? "white" : palette.windowText
-                font.pixelSize: 13
+                color: button.selected ? Theme.onColor : palette.windowText
+                font.pixelSize: Theme.fontBody
                 font.weight: Font.DemiBold
             }
             Label {
                 objectName: "reviewDetail"
                 Layout.fillWidth: true
-                text: button.controller.reviewDetail
+                text: button.controller.reviewButton.detail
                 elide: Text.ElideRight
-                color: button.selected ? Qt.rgba(1, 1, 1, 0.8) : button.secondaryText
-                font.pixelSize: 11
+                color: button.selected ? Theme.onColorSecondary : Theme.secondaryText
+                font.pixelSize: Theme.fontCaption
             }
         }
         SymbolIcon {
@@ -60,7 +61,7 @@ Rectangle {
             Layout.alignment: Qt.AlignVCenter
             name: "chevron.right"
             size: 14
-            color: button.selected ? Qt.rgba(1, 1, 1, 0.6) : button.secondaryText
+            color: button.selected ? Theme.onColorTertiary : Theme.secondaryText
         }
     }
 

@@ -4,27 +4,29 @@ import QtQuick.Layouts
 import Larkspan
 
 // One row of the dashboard's tab list: the tab's symbol and label, highlighted while selected.
+// A row of the controller's tab model.
 Rectangle {
     id: row
 
-    property string label
-    property string symbol
+    required property string label
+    required property string symbol
     property bool selected: false
 
     signal clicked()
 
     implicitHeight: 32
     radius: 6
-    color: selected ? palette.highlight
-                    : mouse.containsMouse ? Qt.rgba(palette.windowText.r, palette.windowText.g,
-                                                    palette.windowText.b, 0.07)
-                                          : "transparent"
+    color: selected ? palette.highlight : mouse.containsMouse ? Theme.hover : "transparent"
+    Accessible.role: Accessible.PageTab
+    Accessible.name: label
+    Accessible.selected: selected
+    Accessible.onPressAction: row.clicked()
 
     RowLayout {
         anchors.fill: parent
         anchors.leftMargin: 10
         anchors.rightMargin: 10
-        spacing: 10
+        spacing: Theme.spacingLarge
 
         SymbolIcon {
             Layout.alignment: Qt.AlignVCenter
@@ -37,7 +39,7 @@ Rectangle {
             text: row.label
             elide: Text.ElideRight
             color: row.selected ? palette.highlightedText : palette.windowText
-            font.pixelSize: 13
+            font.pixelSize: Theme.fontBody
         }
     }
 

@@ -10,14 +10,9 @@ Rectangle {
 
     required property DashboardController controller
 
-    readonly property color secondaryText: Qt.rgba(palette.windowText.r, palette.windowText.g,
-                                                   palette.windowText.b, 0.62)
-    // Hairlines that show on light and dark palettes alike.
     // The review screen keeps the orange of its button; the others the palette's accent.
     readonly property color detailAccent: controller.shownTab === controller.reviewTab
-                                          ? controller.reviewColor : palette.highlight
-    readonly property color separator: Qt.rgba(palette.windowText.r, palette.windowText.g,
-                                               palette.windowText.b, 0.12)
+                                          ? Theme.orange : palette.highlight
 
     implicitWidth: 1100
     implicitHeight: 740
@@ -29,7 +24,7 @@ Rectangle {
 
         handle: Rectangle {
             implicitWidth: 1
-            color: root.separator
+            color: Theme.separator
         }
 
         Rectangle {
@@ -50,16 +45,15 @@ Rectangle {
                     Layout.leftMargin: 6
                     text: "Larkspan"
                     color: palette.windowText
-                    font.pixelSize: 20
+                    font.pixelSize: Theme.fontTitle
                     font.weight: Font.Bold
                 }
 
                 DashboardLiveCard {
                     objectName: "liveCard"
                     Layout.fillWidth: true
-                    visible: root.controller.hasSession
+                    visible: root.controller.liveCard.shown
                     controller: root.controller
-                    secondaryText: root.secondaryText
                 }
 
                 ColumnLayout {
@@ -71,13 +65,11 @@ Rectangle {
                         model: root.controller.tabs
 
                         DashboardTabRow {
-                            required property var modelData
-                            objectName: "tab-" + modelData.label
+                            id: tabRow
+                            objectName: "tab-" + label
                             Layout.fillWidth: true
-                            label: modelData.label
-                            symbol: modelData.symbol
-                            selected: root.controller.shownTab === modelData.label
-                            onClicked: root.controller.selectedTab = modelData.label
+                            selected: root.controller.shownTab === label
+                            onClicked: root.controller.selectedTab = tabRow.label
                         }
                     }
                 }
@@ -88,16 +80,15 @@ Rectangle {
                     Layout.leftMargin: 6
                     Layout.rightMargin: 6
                     implicitHeight: 1
-                    visible: root.controller.hasReviewButton
-                    color: root.separator
+                    visible: root.controller.reviewButton.shown
+                    color: Theme.separator
                 }
 
                 DashboardReviewButton {
                     objectName: "reviewButton"
                     Layout.fillWidth: true
-                    visible: root.controller.hasReviewButton
+                    visible: root.controller.reviewButton.shown
                     controller: root.controller
-                    secondaryText: root.secondaryText
                 }
 
                 Item {
@@ -122,7 +113,7 @@ Rectangle {
                     implicitWidth: 88
                     implicitHeight: 88
                     radius: 44
-                    color: Qt.rgba(root.detailAccent.r, root.detailAccent.g, root.detailAccent.b, 0.12)
+                    color: Theme.tint(root.detailAccent, Theme.wash)
 
                     SymbolIcon {
                         objectName: "detailSymbol"
@@ -138,7 +129,7 @@ Rectangle {
                     horizontalAlignment: Text.AlignHCenter
                     text: root.controller.shownTab
                     color: palette.windowText
-                    font.pixelSize: 24
+                    font.pixelSize: Theme.fontLargeTitle
                     font.weight: Font.DemiBold
                 }
                 StartAtLoginSwitch {
@@ -160,7 +151,7 @@ Rectangle {
                     horizontalAlignment: Text.AlignHCenter
                     wrapMode: Text.Wrap
                     text: root.controller.shownComingLine
-                    color: root.secondaryText
+                    color: Theme.secondaryText
                     font.pixelSize: 14
                 }
             }

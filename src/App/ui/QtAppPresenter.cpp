@@ -125,6 +125,12 @@ void QtAppPresenter::openDashboard() {
     dashboard_->open();
 }
 
+void QtAppPresenter::openReview() {
+    openDashboard();
+    if (dashboard_)
+        dashboard_->controller().openReview();
+}
+
 void QtAppPresenter::openDashboardWithoutTray() {
     if (!QSystemTrayIcon::isSystemTrayAvailable())
         openDashboard();
@@ -151,6 +157,10 @@ void QtAppPresenter::togglePopover() {
             if (openDashboard_) {
                 openDashboard_();
             }
+        });
+        quickSummary_->setOnOpenReview([this] {
+            closePopover();
+            openReview();
         });
         popover_ = std::make_unique<QuickSummaryPopover>(engine(), *quickSummary_);
         releaseWhenHidden(popover_->window());

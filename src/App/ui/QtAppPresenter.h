@@ -47,6 +47,8 @@ public:
     void showReturnFromIdlePopup(double idleDuration, IdleAnswer onResolve) override;
     void closeIdlePopup() override;
     void openDashboard() override;
+    // The dashboard, on its review screen.
+    void openReview();
     void showStatusTitle(const StatusTitle& title) override;
     void closePopover() override;
     // At launch: with no tray to reach the application from, the dashboard opens in its place.

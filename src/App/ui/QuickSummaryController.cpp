@@ -1,6 +1,5 @@
 #include "App/ui/QuickSummaryController.h"
 
-#include <QColor>
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QLocale>
@@ -10,22 +9,15 @@
 #include <algorithm>
 
 #include "App/QuickSummary.h"
+#include "Classification/Palette.h"
 #include "Platform/LocalDay.h"
+#include "Ui/QtConversion.h"
 
 namespace larkspan {
 
 namespace {
 
 constexpr int kRefreshMilliseconds = 30'000;
-
-QString text(const std::string& value) {
-    return QString::fromStdString(value);
-}
-
-QColor qColor(const Color& color) {
-    return QColor::fromRgbF(static_cast<float>(color.red), static_cast<float>(color.green),
-                            static_cast<float>(color.blue));
-}
 
 QDateTime localDateTime(Date instant) {
     return QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(instant * 1000));
@@ -38,6 +30,15 @@ QString shortTimeFormat(const QLocale& locale) {
     return format;
 }
 
+// Assigns `next` and says whether that changed anything.
+template <class Item>
+bool replace(Item& shown, Item next) {
+    if (shown == next)
+        return false;
+    shown = std::move(next);
+    return true;
+}
+
 }  // namespace
 
 QuickSummaryController::QuickSummaryController(Database& database, SessionManager& sessionManager,
@@ -47,16 +48,22 @@ QuickSummaryController::QuickSummaryController(Database& database, SessionManage
       database_(database),
       sessionManager_(sessionManager),
       pomodoroTimer_(pomodoroTimer),
-      clock_(clock) {
-    shown_.now = clock_.now();
+      clock_(clock),
+      breakdownBars_(this),
+      recentRows_(this) {
+    day_.dateText = QLocale().toString(localDateTime(clock_.now()).date(), QLocale::LongFormat);
     refresh_.setInterval(kRefreshMilliseconds);
     connect(&refresh_, &QTimer::timeout, this, &QuickSummaryController::load);
     refresh_.start();
+    // Each subscription delivers its current value at once, which fills the items.
+    subscriptions_.push_back(
+        sessionManager_.currentSession.subscribe([this](const auto&) { trackerMoved(); }));
+    subscriptions_.push_back(
+        sessionManager_.pendingApprovalCount.subscribe([this](std::int64_t) { trackerMoved(); }));
     // progress follows secondsLeft; the mode's colour and icon follow mode.
-    timerSubscriptions_.push_back(pomodoroTimer_.mode.subscribe([this](const auto&) { timerMoved(); }));
-    timerSubscriptions_.push_back(pomodoroTimer_.runState.subscribe([this](const auto&) { timerMoved(); }));
-    timerSubscriptions_.push_back(
-        pomodoroTimer_.secondsLeft.subscribe([this](const auto&) { timerMoved(); }));
+    subscriptions_.push_back(pomodoroTimer_.mode.subscribe([this](const auto&) { timerMoved(); }));
+    subscriptions_.push_back(pomodoroTimer_.runState.subscribe([this](const auto&) { timerMoved(); }));
+    subscriptions_.push_back(pomodoroTimer_.secondsLeft.subscribe([this](const auto&) { timerMoved(); }));
 }
 
 void QuickSummaryController::load() {
@@ -81,106 +88,66 @@ void QuickSummaryController::load() {
 }
 
 void QuickSummaryController::assign(Loaded loaded) {
-    shown_ = std::move(loaded);
-    emit summaryChanged();
-    emit redrawn();
+    categories_ = categoriesByID(loaded.categories);
+    const Breakdown shownBreakdown = breakdown(loaded.summary, categories_);
+    const auto line = productivityLine(loaded.summary);
+    SummaryDay day;
+    day.dateText = QLocale().toString(localDateTime(loaded.now).date(), QLocale::LongFormat);
+    day.totalText = loaded.summary ? toQString(formatSeconds(loaded.summary->totalSeconds)) : QString();
+    day.hasBreakdown = shownBreakdown.hasData;
+    if (line) {
+        day.productivityText = toQString(line->text);
+        day.productivityColor = toQColor(toneColor(line->tone));
+    }
+    day_ = std::move(day);
+
+    std::vector<BreakdownBarItem> bars;
+    for (const BreakdownBar& bar : shownBreakdown.bars)
+        bars.push_back({bar.category.id, toQString(bar.category.icon), toQString(bar.category.name),
+                        toQColor(bar.category.color()), bar.fraction, toQString(bar.duration)});
+    breakdownBars_.setRows(std::move(bars));
+
+    const QLocale locale;
+    const QString timeFormat = shortTimeFormat(locale);
+    std::vector<RecentRowItem> rows;
+    for (const RecentRow& row : larkspan::recentRows(loaded.recent, categories_))
+        rows.push_back({row.id, toQString(row.icon), toQString(row.title),
+                        locale.toString(localDateTime(row.startTime).time(), timeFormat),
+                        toQString(row.duration)});
+    recentRows_.setRows(std::move(rows));
+
+    emit dayChanged();
+    // The session row names the session's category, which the load may have renamed.
+    trackerMoved();
+}
+
+void QuickSummaryController::trackerMoved() {
+    const SessionRow row = sessionRow(sessionManager_.currentSession.get(), categories_);
+    const bool sessionMoved =
+        replace(session_, SummarySession{toQString(row.icon), toQString(row.title), toQString(row.subtitle),
+                                         toQColor(row.dot.value_or(Palette::grey)), row.hasSession});
+    const std::int64_t count = sessionManager_.pendingApprovalCount.get();
+    const bool pendingMoved = replace(
+        pending_, SummaryPending{static_cast<int>(std::clamp<std::int64_t>(count, 0, INT32_MAX)),
+                                 toQString(pendingBannerText(count)), toQString(pendingFooterText(count))});
+    if (sessionMoved || pendingMoved)
+        emit trackerChanged();
 }
 
 void QuickSummaryController::timerMoved() {
-    emit timerChanged();
-    emit redrawn();
-}
-
-QVariantMap QuickSummaryController::labels() const {
-    return {{"today", summary_text::today},
-            {"tracked", summary_text::tracked},
-            {"breakdownTitle", summary_text::breakdownTitle},
-            {"noDataYet", summary_text::noDataYet},
-            {"recentTitle", summary_text::recentTitle},
-            {"nothingTracked", summary_text::nothingTracked},
-            {"tapToCategorize", summary_text::tapToCategorize},
-            {"openDashboard", summary_text::openDashboard}};
-}
-
-QString QuickSummaryController::dateText() const {
-    return QLocale().toString(localDateTime(shown_.now).date(), QLocale::LongFormat);
-}
-
-QString QuickSummaryController::totalText() const {
-    return shown_.summary ? text(formatSeconds(shown_.summary->totalSeconds)) : QString();
-}
-
-bool QuickSummaryController::hasBreakdown() const {
-    return breakdown(shown_.summary, categoriesByID(shown_.categories)).hasData;
-}
-
-QVariantList QuickSummaryController::breakdownBars() const {
-    QVariantList bars;
-    for (const BreakdownBar& bar : breakdown(shown_.summary, categoriesByID(shown_.categories)).bars) {
-        bars.append(QVariantMap{{"icon", text(bar.category.icon)},
-                                {"name", text(bar.category.name)},
-                                {"color", qColor(bar.category.color())},
-                                {"fraction", bar.fraction},
-                                {"duration", text(bar.duration)}});
-    }
-    return bars;
-}
-
-QVariantMap QuickSummaryController::productivity() const {
-    const auto line = productivityLine(shown_.summary);
-    if (!line) {
-        return {};
-    }
-    return {{"text", text(line->text)}, {"color", qColor(toneColor(line->tone))}};
-}
-
-QVariantList QuickSummaryController::recentRows() const {
-    QVariantList rows;
-    const QLocale locale;
-    const QString timeFormat = shortTimeFormat(locale);
-    for (const RecentRow& row : larkspan::recentRows(shown_.recent, categoriesByID(shown_.categories))) {
-        rows.append(QVariantMap{{"icon", text(row.icon)},
-                                {"title", text(row.title)},
-                                {"time", locale.toString(localDateTime(row.startTime).time(), timeFormat)},
-                                {"duration", text(row.duration)}});
-    }
-    return rows;
-}
-
-QVariantMap QuickSummaryController::session() const {
-    const SessionRow row =
-        sessionRow(sessionManager_.currentSession.get(), categoriesByID(shown_.categories));
-    return {{"icon", text(row.icon)},
-            {"title", text(row.title)},
-            {"subtitle", text(row.subtitle)},
-            {"dotColor", row.dot ? qColor(*row.dot) : QColor(Qt::gray)},
-            {"hasSession", row.hasSession}};
-}
-
-int QuickSummaryController::pendingCount() const {
-    return static_cast<int>(
-        std::clamp<std::int64_t>(sessionManager_.pendingApprovalCount.get(), 0, INT32_MAX));
-}
-
-QString QuickSummaryController::pendingBannerText() const {
-    return text(larkspan::pendingBannerText(sessionManager_.pendingApprovalCount.get()));
-}
-
-QString QuickSummaryController::pendingFooterText() const {
-    return text(larkspan::pendingFooterText(sessionManager_.pendingApprovalCount.get()));
-}
-
-QVariantMap QuickSummaryController::timer() const {
     const TimerControls controls = timerControls(pomodoroTimer_.mode.get(), pomodoroTimer_.runState.get());
-    return {{"modeIcon", text(controls.modeIcon)},
-            {"displayTime", text(pomodoroTimer_.displayTime())},
-            {"modeName", QString::fromUtf8(rawValue(pomodoroTimer_.mode.get()))},
-            {"color", qColor(pomodoroTimer_.modeColor())},
-            {"progress", std::clamp(pomodoroTimer_.progress(), 0.0, 1.0)},
-            {"running", controls.mainPauses},
-            {"showsStop", controls.showsStop},
-            {"mainSymbol", text(controls.mainSymbol)},
-            {"backgroundOpacity", controls.backgroundOpacity}};
+    if (replace(timer_, SummaryTimer{toQString(controls.modeIcon), toQString(pomodoroTimer_.displayTime()),
+                                     toQString(rawValue(pomodoroTimer_.mode.get())),
+                                     toQColor(pomodoroTimer_.modeColor()),
+                                     std::clamp(pomodoroTimer_.progress(), 0.0, 1.0), controls.showsStop,
+                                     toQString(controls.mainSymbol), controls.backgroundOpacity}))
+        emit timerChanged();
+}
+
+SummaryLabels QuickSummaryController::labels() const {
+    return {summary_text::today,           summary_text::tracked,      summary_text::breakdownTitle,
+            summary_text::noDataYet,       summary_text::recentTitle,  summary_text::nothingTracked,
+            summary_text::tapToCategorize, summary_text::openDashboard};
 }
 
 void QuickSummaryController::toggleTimer() {
@@ -198,6 +165,12 @@ void QuickSummaryController::stopTimer() {
 void QuickSummaryController::openDashboard() {
     if (onOpenDashboard_) {
         onOpenDashboard_();
+    }
+}
+
+void QuickSummaryController::openReview() {
+    if (onOpenReview_) {
+        onOpenReview_();
     }
 }
 

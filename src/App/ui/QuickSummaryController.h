@@ -1,8 +1,11 @@
 // The quick summary popover's state: the day's summary, categories and recent activities, loaded off
 // the main thread when the popover opens and every 30 seconds from creation on (also while it is
-// closed), plus the session, the pending count and the Pomodoro timer, read live whenever the view
-// redraws. What each section shows comes from App/QuickSummary; this class formats dates and times
-// with the user's locale and hands values to QuickSummaryView.
+// closed); the session and the pending count as the tracker publishes them; the Pomodoro timer as it
+// moves. What each section shows comes from App/QuickSummary; this class formats dates and times with
+// the user's locale and hands the results to QuickSummaryView as value items and list models.
+//
+// Each cause of change recomputes what depends on it and sends one signal: dayChanged after a load,
+// trackerChanged for the session or the pending count, timerChanged for the timer.
 //
 // Loads run on the global thread pool and post their result to the main thread; overlapping loads
 // are not prevented and the last to arrive wins. The database must outlive every load in flight.
@@ -11,17 +14,18 @@
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
 #include <QTimer>
-#include <QVariantList>
-#include <QVariantMap>
 #include <functional>
+#include <map>
 #include <optional>
 #include <vector>
 
+#include "App/ui/QuickSummaryItems.h"
 #include "Data/Database.h"
 #include "Focus/PomodoroTimer.h"
 #include "Platform/Clock.h"
 #include "Platform/Subscription.h"
 #include "Tracking/SessionManager.h"
+#include "Ui/ValueListModel.h"
 
 namespace larkspan {
 
@@ -30,65 +34,45 @@ class QuickSummaryController final : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("made by the popover over the tracker's objects")
 
-    // Fixed labels by name: today, tracked, breakdownTitle, noDataYet, recentTitle, nothingTracked,
-    // tapToCategorize, openDashboard.
-    Q_PROPERTY(QVariantMap labels READ labels CONSTANT)
-
-    // From the last load.
-    Q_PROPERTY(QString dateText READ dateText NOTIFY summaryChanged)
-    Q_PROPERTY(QString totalText READ totalText NOTIFY summaryChanged)  // empty before the first load
-    Q_PROPERTY(bool hasBreakdown READ hasBreakdown NOTIFY summaryChanged)
-    // Each: icon, name, color, fraction (0–1), duration.
-    Q_PROPERTY(QVariantList breakdownBars READ breakdownBars NOTIFY summaryChanged)
-    // text and color; empty when there is no line.
-    Q_PROPERTY(QVariantMap productivity READ productivity NOTIFY summaryChanged)
-    // Each: icon, title, time, duration.
-    Q_PROPERTY(QVariantList recentRows READ recentRows NOTIFY summaryChanged)
-
-    // Read from the session manager at each redraw: a load or a change of the timer.
-    // icon, title, subtitle, dotColor, hasSession.
-    Q_PROPERTY(QVariantMap session READ session NOTIFY redrawn)
-    Q_PROPERTY(int pendingCount READ pendingCount NOTIFY redrawn)
-    Q_PROPERTY(QString pendingBannerText READ pendingBannerText NOTIFY redrawn)
-    Q_PROPERTY(QString pendingFooterText READ pendingFooterText NOTIFY redrawn)
-
-    // The Pomodoro timer: modeIcon, displayTime, modeName, color, progress, running, showsStop,
-    // mainSymbol, backgroundOpacity.
-    Q_PROPERTY(QVariantMap timer READ timer NOTIFY timerChanged)
+    Q_PROPERTY(SummaryLabels labels READ labels CONSTANT)
+    Q_PROPERTY(SummaryDay day READ day NOTIFY dayChanged)
+    Q_PROPERTY(larkspan::ValueListModelBase* breakdownBars READ breakdownBars CONSTANT)
+    Q_PROPERTY(larkspan::ValueListModelBase* recentRows READ recentRows CONSTANT)
+    Q_PROPERTY(SummarySession session READ session NOTIFY trackerChanged)
+    Q_PROPERTY(SummaryPending pending READ pending NOTIFY trackerChanged)
+    Q_PROPERTY(SummaryTimer timer READ timer NOTIFY timerChanged)
 
 public:
-    // Subscribes to the timer and starts the 30-second refresh; loads nothing yet. Every argument must
-    // outlive the controller.
+    // Subscribes to the tracker and the timer and starts the 30-second refresh; loads nothing yet.
+    // Every argument must outlive the controller.
     QuickSummaryController(Database& database, SessionManager& sessionManager, PomodoroTimer& pomodoroTimer,
                            const Clock& clock, QObject* parent = nullptr);
 
-    // What "Open Dashboard" does; may be empty.
+    // What "Open Dashboard" and the pending banner do; either may be empty.
     void setOnOpenDashboard(std::function<void()> action) { onOpenDashboard_ = std::move(action); }
+    void setOnOpenReview(std::function<void()> action) { onOpenReview_ = std::move(action); }
 
-    QVariantMap labels() const;
-    QString dateText() const;
-    QString totalText() const;
-    bool hasBreakdown() const;
-    QVariantList breakdownBars() const;
-    QVariantMap productivity() const;
-    QVariantList recentRows() const;
-    QVariantMap session() const;
-    int pendingCount() const;
-    QString pendingBannerText() const;
-    QString pendingFooterText() const;
-    QVariantMap timer() const;
+    SummaryLabels labels() const;
+    const SummaryDay& day() const { return day_; }
+    ValueListModelBase* breakdownBars() { return &breakdownBars_; }
+    ValueListModelBase* recentRows() { return &recentRows_; }
+    const SummarySession& session() const { return session_; }
+    const SummaryPending& pending() const { return pending_; }
+    const SummaryTimer& timer() const { return timer_; }
 
-    // Reads the day in the background; summaryChanged and redrawn follow on the main thread.
+    // Reads the day in the background; dayChanged follows on the main thread.
     Q_INVOKABLE void load();
     // The main timer button: pauses a running timer, starts or resumes any other.
     Q_INVOKABLE void toggleTimer();
     Q_INVOKABLE void stopTimer();
     Q_INVOKABLE void openDashboard();
+    // The pending banner: the dashboard's review screen.
+    Q_INVOKABLE void openReview();
 
 signals:
-    void summaryChanged();
+    void dayChanged();
+    void trackerChanged();
     void timerChanged();
-    void redrawn();
 
 private:
     struct Loaded {
@@ -98,6 +82,7 @@ private:
         std::vector<ActivityRecord> recent;
     };
     void assign(Loaded loaded);
+    void trackerMoved();
     void timerMoved();
 
     Database& database_;
@@ -105,10 +90,17 @@ private:
     PomodoroTimer& pomodoroTimer_;
     const Clock& clock_;
     std::function<void()> onOpenDashboard_;
+    std::function<void()> onOpenReview_;
 
-    Loaded shown_;
+    std::map<std::int64_t, Category> categories_;  // of the last load
+    SummaryDay day_;
+    ValueListModel<BreakdownBarItem> breakdownBars_;
+    ValueListModel<RecentRowItem> recentRows_;
+    SummarySession session_;
+    SummaryPending pending_;
+    SummaryTimer timer_;
     QTimer refresh_{this};  // a child, so tests can find it
-    std::vector<Subscription> timerSubscriptions_;
+    std::vector<Subscription> subscriptions_;
 };
 
 }  // namespace larkspan

@@ -85,21 +85,17 @@ void TrayIcon::rebuildMenu() {
         return;
     for (const auto& item : menuItems_()) {
         const auto title = QString::fromStdString(item.title);
-        QAction* action = nullptr;
         switch (item.action) {
             case MenuItem::Action::separator:
                 menu_.addSeparator();
-                continue;
+                break;
             case MenuItem::Action::openDashboard:
-                action = menu_.addAction(title, this, &TrayIcon::openDashboardRequested);
+                menu_.addAction(title, this, &TrayIcon::openDashboardRequested);
                 break;
             case MenuItem::Action::quit:
-                action = menu_.addAction(title, this, &TrayIcon::quitRequested);
+                menu_.addAction(title, this, &TrayIcon::quitRequested);
                 break;
         }
-        if (!item.keyEquivalent.empty())
-            action->setShortcut(
-                QKeySequence(QStringLiteral("Ctrl+") + QString::fromStdString(item.keyEquivalent).toUpper()));
     }
     addStartAtLogin();
 }

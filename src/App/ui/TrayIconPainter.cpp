@@ -5,11 +5,12 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "Classification/Palette.h"
+#include "Ui/QtConversion.h"
+
 namespace larkspan {
 
 namespace {
-
-const QColor kBadgeOrange(0xFF, 0x95, 0x00);
 
 // Colour emoji fonts carry large bitmaps whose glyph sits off-centre in its line box. Rendering big,
 // cropping to the drawn pixels and scaling down gives a glyph that fills and centres in any box.
@@ -84,9 +85,9 @@ QImage TrayIconPainter::paint(const TrayIconContent& content, int size, qreal de
         const qreal w = qMin(s, qMax(h, QFontMetricsF(font).horizontalAdvance(text) + h * 0.4));
         const QRectF pill(s - w, 0, w, h);
         painter.setPen(Qt::NoPen);
-        painter.setBrush(kBadgeOrange);
+        painter.setBrush(toQColor(Palette::orange));
         painter.drawRoundedRect(pill, h / 2, h / 2);
-        painter.setPen(Qt::white);
+        painter.setPen(toQColor(Palette::white));
         painter.setFont(font);
         painter.drawText(pill, Qt::AlignCenter, text);
     }

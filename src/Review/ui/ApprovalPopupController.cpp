@@ -1,27 +1,18 @@
 #include "Review/ui/ApprovalPopupController.h"
 
-#include <QColor>
-#include <QVariantMap>
 #include <utility>
+
+#include "Ui/QtConversion.h"
 
 namespace larkspan {
 
 namespace {
 
-QVariantList entries(const std::vector<Category>& categories) {
-    QVariantList list;
-    for (const auto& category : categories) {
-        const Color color = category.color();
-        list.append(QVariantMap{
-            {QStringLiteral("id"), QVariant::fromValue<qint64>(category.id)},
-            {QStringLiteral("name"), QString::fromStdString(category.name)},
-            {QStringLiteral("icon"), QString::fromStdString(category.icon)},
-            {QStringLiteral("color"),
-             QColor::fromRgbF(static_cast<float>(color.red), static_cast<float>(color.green),
-                              static_cast<float>(color.blue))},
-            {QStringLiteral("title"), QString::fromStdString(ApprovalPopup::menuTitle(category))},
-        });
-    }
+std::vector<CategoryChoice> choices(const std::vector<Category>& categories) {
+    std::vector<CategoryChoice> list;
+    for (const auto& category : categories)
+        list.push_back({category.id, toQString(category.name), toQString(category.icon),
+                        toQColor(category.color()), toQString(ApprovalPopup::menuTitle(category))});
     return list;
 }
 
@@ -29,26 +20,20 @@ QVariantList entries(const std::vector<Category>& categories) {
 
 ApprovalPopupController::ApprovalPopupController(ApprovalPopup popup, std::chrono::milliseconds tick,
                                                  QObject* parent)
-    : QObject(parent), popup_(std::move(popup)) {
+    : QObject(parent), popup_(std::move(popup)), gridCategories_(this), menuCategories_(this) {
+    gridCategories_.setRows(choices(popup_.gridCategories()));
+    menuCategories_.setRows(choices(popup_.menuCategories()));
     timer_.setTimerType(Qt::PreciseTimer);
     timer_.setInterval(tick);
     connect(&timer_, &QTimer::timeout, this, &ApprovalPopupController::tick);
 }
 
 QString ApprovalPopupController::activityTitle() const {
-    return QString::fromStdString(popup_.record().displayTitle());
-}
-
-QVariantList ApprovalPopupController::gridCategories() const {
-    return entries(popup_.gridCategories());
-}
-
-QVariantList ApprovalPopupController::menuCategories() const {
-    return entries(popup_.menuCategories());
+    return toQString(popup_.record().displayTitle());
 }
 
 QString ApprovalPopupController::countdownText() const {
-    return QString::fromStdString(popup_.countdownText());
+    return toQString(popup_.countdownText());
 }
 
 void ApprovalPopupController::setHovered(bool hovered) {

@@ -6,10 +6,11 @@
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
 #include <QTimer>
-#include <QVariantList>
 #include <chrono>
 
 #include "Review/ApprovalPopup.h"
+#include "Review/ui/PromptItems.h"
+#include "Ui/ValueListModel.h"
 
 namespace larkspan {
 
@@ -18,9 +19,8 @@ class ApprovalPopupController final : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("Made by the shell for one activity")
     Q_PROPERTY(QString activityTitle READ activityTitle CONSTANT)
-    // Each entry: id, name, icon, color, title (the menu text).
-    Q_PROPERTY(QVariantList gridCategories READ gridCategories CONSTANT)
-    Q_PROPERTY(QVariantList menuCategories READ menuCategories CONSTANT)
+    Q_PROPERTY(larkspan::ValueListModelBase* gridCategories READ gridCategories CONSTANT)
+    Q_PROPERTY(larkspan::ValueListModelBase* menuCategories READ menuCategories CONSTANT)
     Q_PROPERTY(int countdown READ countdown NOTIFY countdownChanged)
     Q_PROPERTY(QString countdownText READ countdownText NOTIFY countdownChanged)
     Q_PROPERTY(bool counting READ counting NOTIFY countdownChanged)
@@ -32,8 +32,8 @@ public:
                                      QObject* parent = nullptr);
 
     QString activityTitle() const;
-    QVariantList gridCategories() const;
-    QVariantList menuCategories() const;
+    ValueListModel<CategoryChoice>* gridCategories() { return &gridCategories_; }
+    ValueListModel<CategoryChoice>* menuCategories() { return &menuCategories_; }
     int countdown() const { return popup_.countdown(); }
     QString countdownText() const;
     bool counting() const { return popup_.isTimerRunning(); }
@@ -56,6 +56,8 @@ private:
     void syncTimer();
 
     ApprovalPopup popup_;
+    ValueListModel<CategoryChoice> gridCategories_;
+    ValueListModel<CategoryChoice> menuCategories_;
     QTimer timer_;
 };
 

@@ -14,11 +14,6 @@ PromptCard {
     implicitWidth: 340
     implicitHeight: 200
 
-    readonly property color secondaryText: Qt.rgba(palette.windowText.r, palette.windowText.g,
-                                                   palette.windowText.b, 0.65)
-    readonly property color tertiaryText: Qt.rgba(palette.windowText.r, palette.windowText.g,
-                                                  palette.windowText.b, 0.45)
-
     Component.onCompleted: controller.startCountdown()
 
     HoverHandler {
@@ -38,7 +33,7 @@ PromptCard {
             spacing: 6
             SymbolIcon {
                 name: "questionmark.circle.fill"
-                color: "#ff9500"
+                color: Theme.orange
                 size: 16
             }
             Label {
@@ -52,7 +47,7 @@ PromptCard {
                 objectName: "countdown"
                 text: root.controller.countdownText
                 font.pixelSize: 11
-                color: root.tertiaryText
+                color: Theme.tertiaryText
                 horizontalAlignment: Text.AlignRight
                 // As wide as the widest count, so the row does not shift as digits change.
                 Layout.minimumWidth: widest.advanceWidth
@@ -85,7 +80,7 @@ PromptCard {
                 verticalAlignment: Text.AlignVCenter
                 text: "What were you doing?"
                 font.pixelSize: 11
-                color: root.secondaryText
+                color: Theme.secondaryText
             }
         }
 
@@ -101,14 +96,16 @@ PromptCard {
             Repeater {
                 model: root.controller.gridCategories
                 PromptChoiceButton {
-                    required property var modelData
+                    id: choice
                     required property int index
+                    required property var categoryID
+                    required property string name
+                    required emoji
+                    required tint
                     objectName: "category-" + index
                     width: (grid.width - 2 * grid.spacing) / 3
-                    emoji: modelData.icon
-                    text: modelData.name
-                    tint: modelData.color
-                    onClicked: root.controller.choose(modelData.id)
+                    text: name
+                    onClicked: root.controller.choose(choice.categoryID)
                 }
             }
         }
@@ -132,7 +129,7 @@ PromptCard {
                 objectName: "more"
                 Layout.rightMargin: -rightPadding
                 text: "More\u2026"
-                enabled: root.controller.menuCategories.length > 0
+                enabled: root.controller.menuCategories.count > 0
                 onClicked: moreMenu.open()
 
                 Menu {
@@ -146,10 +143,13 @@ PromptCard {
                         model: root.controller.menuCategories
                         MenuItem {
                             id: entry
-                            required property var modelData
                             required property int index
+                            required property var categoryID
+                            required property string name
+                            required property string emoji
+                            required property string menuTitle
                             objectName: "menu-" + index
-                            text: modelData.title
+                            text: menuTitle
                             font.pixelSize: 12
                             implicitHeight: 26
                             contentItem: Row {
@@ -157,15 +157,15 @@ PromptCard {
                                 spacing: 6
                                 Text {
                                     anchors.verticalCenter: parent.verticalCenter
-                                    text: entry.modelData.icon
+                                    text: entry.emoji
                                     textFormat: Text.PlainText
-                                    font.family: "Noto Color Emoji"
+                                    font.family: Theme.emojiFont
                                     font.pixelSize: 13
                                 }
                                 Text {
                                     anchors.verticalCenter: parent.verticalCenter
                                     width: Math.min(implicitWidth, 200)
-                                    text: entry.modelData.name
+                                    text: entry.name
                                     textFormat: Text.PlainText
                                     font: entry.font
                                     color: entry.highlighted ? entry.palette.highlightedText : entry.palette.windowText
@@ -173,7 +173,7 @@ PromptCard {
                                     maximumLineCount: 1
                                 }
                             }
-                            onTriggered: root.controller.choose(modelData.id)
+                            onTriggered: root.controller.choose(entry.categoryID)
                         }
                     }
                 }

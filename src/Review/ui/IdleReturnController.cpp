@@ -1,31 +1,21 @@
 #include "Review/ui/IdleReturnController.h"
 
-#include <QVariantMap>
 #include <utility>
+
+#include "Ui/QtConversion.h"
 
 namespace larkspan {
 
-namespace {
-
-QString text(std::string_view view) {
-    return QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size()));
-}
-
-}  // namespace
-
 IdleReturnController::IdleReturnController(IdleReturn card, QObject* parent)
-    : QObject(parent), card_(std::move(card)) {}
+    : QObject(parent), card_(std::move(card)), options_(this) {
+    std::vector<IdleOption> options;
+    for (const auto& option : IdleReturn::options)
+        options.push_back({toQString(option.label), toQString(option.icon)});
+    options_.setRows(std::move(options));
+}
 
 QString IdleReturnController::message() const {
-    return QString::fromStdString(card_.message());
-}
-
-QVariantList IdleReturnController::options() const {
-    QVariantList list;
-    for (const auto& option : IdleReturn::options)
-        list.append(QVariantMap{{QStringLiteral("icon"), text(option.icon)},
-                                {QStringLiteral("label"), text(option.label)}});
-    return list;
+    return toQString(card_.message());
 }
 
 void IdleReturnController::choose(int index) {

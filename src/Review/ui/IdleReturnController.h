@@ -4,9 +4,9 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
-#include <QVariantList>
-
 #include "Review/IdleReturn.h"
+#include "Review/ui/PromptItems.h"
+#include "Ui/ValueListModel.h"
 
 namespace larkspan {
 
@@ -15,13 +15,12 @@ class IdleReturnController final : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("Made by the shell for one return")
     Q_PROPERTY(QString message READ message CONSTANT)
-    // Each entry: icon, label.
-    Q_PROPERTY(QVariantList options READ options CONSTANT)
+    Q_PROPERTY(larkspan::ValueListModelBase* options READ options CONSTANT)
 public:
     explicit IdleReturnController(IdleReturn card, QObject* parent = nullptr);
 
     QString message() const;
-    QVariantList options() const;
+    ValueListModel<IdleOption>* options() { return &options_; }
 
     // The answer at `index` of options.
     Q_INVOKABLE void choose(int index);
@@ -29,6 +28,7 @@ public:
 
 private:
     IdleReturn card_;
+    ValueListModel<IdleOption> options_;
 };
 
 }  // namespace larkspan

@@ -24,7 +24,7 @@ PromptCard {
             spacing: 6
             SymbolIcon {
                 name: "moon.zzz.fill"
-                color: "#007aff"
+                color: Theme.blue
                 size: 16
             }
             Label {
@@ -41,7 +41,7 @@ PromptCard {
             Layout.fillWidth: true
             text: root.controller.message
             font.pixelSize: 11
-            color: Qt.rgba(palette.windowText.r, palette.windowText.g, palette.windowText.b, 0.65)
+            color: Theme.secondaryText
             wrapMode: Text.Wrap
             maximumLineCount: 2
             elide: Text.ElideRight
@@ -57,13 +57,14 @@ PromptCard {
             Repeater {
                 model: root.controller.options
                 PromptChoiceButton {
-                    required property var modelData
+                    id: option
                     required property int index
+                    required property string label
+                    required emoji
                     objectName: "option-" + index
                     width: (grid.width - 2 * grid.spacing) / 3
-                    emoji: modelData.icon
-                    text: modelData.label
-                    onClicked: root.controller.choose(index)
+                    text: label
+                    onClicked: root.controller.choose(option.index)
                 }
             }
         }

@@ -9,7 +9,7 @@ Rectangle {
     radius: Window.window && Window.window.squareCorners ? 0 : 16
     color: palette.window
     border.width: 1
-    border.color: Qt.rgba(palette.windowText.r, palette.windowText.g, palette.windowText.b, 0.18)
+    border.color: Theme.border
 
     DragHandler {
         target: null

@@ -26,7 +26,7 @@ AbstractButton {
             text: control.emoji
             textFormat: Text.PlainText
             // Named, as the first fallback font with the character would draw it in black and white.
-            font.family: "Noto Color Emoji"
+            font.family: Theme.emojiFont
             font.pixelSize: 14
             maximumLineCount: 1
         }
@@ -45,9 +45,9 @@ AbstractButton {
 
     background: Rectangle {
         radius: 8
-        color: Qt.rgba(control.tint.r, control.tint.g, control.tint.b,
-                       control.down ? 0.3 : control.hovered ? 0.22 : 0.15)
+        color: Theme.tint(control.tint, control.down ? Theme.tilePressed
+                                                     : control.hovered ? Theme.tileHover : Theme.track)
         border.width: 1
-        border.color: Qt.rgba(control.tint.r, control.tint.g, control.tint.b, 0.3)
+        border.color: Theme.tint(control.tint, Theme.tilePressed)
     }
 }

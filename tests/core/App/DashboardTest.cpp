@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "ActivityBuilder.h"
+#include "Classification/Palette.h"
 
 namespace larkspan {
 namespace {
@@ -64,8 +65,7 @@ TEST(Dashboard, LiveCardShowsTheSessionsCategoryOrAGreyStopwatch) {
 
     // A category the list does not hold (before the window read them, or deleted), none at all, or an
     // empty list: the stopwatch, grey, "Tracking".
-    const LiveSessionCard unknown{"\u23F1", coding.displayTitle(), "Live \u00B7 Tracking",
-                                  kUnknownCategoryGrey};
+    const LiveSessionCard unknown{"\u23F1", coding.displayTitle(), "Live \u00B7 Tracking", Palette::grey};
     EXPECT_EQ(liveSessionCard(coding, {}), unknown);
     ActivityRecord stray = coding;
     stray.categoryID = 999;

@@ -64,15 +64,15 @@ TEST_F(TrayMenuTest, DrawsStartingAtOnceThenRedrawsForEachValueThroughTheMainQue
 
 TEST_F(TrayMenuTest, TheMenuOffersReviewOnlyWhileActivitiesArePending) {
     TrayMenu controller(*sessions, database, timer, presenter, mainQueue);
-    const MenuItem dashboard{"Open Dashboard", "d", MenuItem::Action::openDashboard};
-    const MenuItem separator{"", "", MenuItem::Action::separator};
-    const MenuItem quit{"Quit Larkspan", "q", MenuItem::Action::quit};
+    const MenuItem dashboard{"Open Dashboard", MenuItem::Action::openDashboard};
+    const MenuItem separator{"", MenuItem::Action::separator};
+    const MenuItem quit{"Quit Larkspan", MenuItem::Action::quit};
     mainQueue.drain();
     EXPECT_EQ(controller.contextMenuItems(), (std::vector<MenuItem>{dashboard, separator, quit}));
 
     sessions->pendingApprovalCount.set(12);
     mainQueue.drain();
-    const MenuItem review{"Review 12 Pending\u2026", "", MenuItem::Action::openDashboard};
+    const MenuItem review{"Review 12 Pending\u2026", MenuItem::Action::openDashboard};
     EXPECT_EQ(controller.contextMenuItems(), (std::vector<MenuItem>{dashboard, review, separator, quit}));
 }
 

@@ -1,6 +1,6 @@
-#include "App/ui/SymbolImageProvider.h"
+#include "Ui/SymbolImageProvider.h"
 
-#include "App/ui/Icons.h"
+#include "Ui/Icons.h"
 
 namespace larkspan {
 

@@ -1,10 +1,10 @@
-#include "App/ui/Icons.h"
+#include "Ui/Icons.h"
 
 #include <QFile>
 #include <QPainter>
 #include <QSvgRenderer>
 
-#include "App/ui/SymbolImageProvider.h"
+#include "Ui/SymbolImageProvider.h"
 
 namespace larkspan {
 

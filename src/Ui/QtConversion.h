@@ -1,0 +1,35 @@
+// The core's values as Qt ones, for controllers handing them to QML: text (UTF-8 in the core; invalid
+// sequences become replacement characters, never a failure) and colours.
+#pragma once
+
+#include <QColor>
+#include <QString>
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "Classification/Category.h"
+
+namespace larkspan {
+
+inline QString toQString(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+inline QString toQString(const std::string& text) {
+    return toQString(std::string_view(text));
+}
+inline QString toQString(const char* text) {
+    return QString::fromUtf8(text);
+}
+// Absent text is the empty string.
+inline QString toQString(const std::optional<std::string>& text) {
+    return text ? toQString(*text) : QString();
+}
+
+inline QColor toQColor(const Color& color, double opacity = 1.0) {
+    return QColor::fromRgbF(static_cast<float>(color.red), static_cast<float>(color.green),
+                            static_cast<float>(color.blue), static_cast<float>(opacity));
+}
+
+}  // namespace larkspan
