@@ -38,7 +38,7 @@ struct Setup {
                                          {"Quit Larkspan", "q", MenuItem::Action::quit}};
         });
         tray.setStartAtLogin(&controller);
-        return screen.load("StartAtLoginSwitch", {{"secondaryText", QColor(Qt::gray)}}, {480, 90});
+        return screen.load("StartAtLoginSwitch", {}, {480, 90});
     }
     bool switchOn() const { return screen.find("startAtLoginSwitch")->property("checked").toBool(); }
     QAction* menuEntry() {

@@ -8,16 +8,14 @@ import Larkspan
 ColumnLayout {
     id: root
 
-    property color secondaryText: palette.windowText
-
     spacing: 8
 
     Label {
         objectName: "browserBridgeTitle"
         Layout.fillWidth: true
         text: "Browser tabs"
-        color: palette.windowText
-        font.pixelSize: 16
+        color: Theme.primaryText
+        font.pixelSize: Theme.fontHeadline
         font.weight: Font.DemiBold
         Accessible.role: Accessible.Heading
     }
@@ -25,8 +23,8 @@ ColumnLayout {
         Layout.fillWidth: true
         wrapMode: Text.Wrap
         text: "With Larkspan's extension in a browser, activities record the page you are on."
-        color: root.secondaryText
-        font.pixelSize: 13
+        color: Theme.secondaryText
+        font.pixelSize: Theme.fontBody
     }
 
     Repeater {
@@ -47,20 +45,18 @@ ColumnLayout {
                 implicitWidth: 8
                 implicitHeight: 8
                 radius: 4
-                color: parent.reported ? palette.highlight
-                                       : Qt.rgba(palette.windowText.r, palette.windowText.g,
-                                                 palette.windowText.b, 0.25)
+                color: parent.reported ? palette.highlight : Theme.tint(Theme.primaryText, Theme.track)
             }
             Label {
                 Layout.fillWidth: true
                 text: parent.name
-                color: palette.windowText
-                font.pixelSize: 14
+                color: Theme.primaryText
+                font.pixelSize: Theme.fontBody
             }
             Label {
                 text: parent.detail
-                color: root.secondaryText
-                font.pixelSize: 13
+                color: Theme.secondaryText
+                font.pixelSize: Theme.fontBody
             }
         }
     }

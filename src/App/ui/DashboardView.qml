@@ -136,14 +136,12 @@ Rectangle {
                     objectName: "startAtLogin"
                     Layout.fillWidth: true
                     visible: root.controller.shownTab === "Settings" && StartAtLoginController.available
-                    secondaryText: root.secondaryText
                 }
                 BrowserBridgeStatus {
                     objectName: "browserBridgeStatus"
                     Layout.fillWidth: true
                     Layout.bottomMargin: 12
                     visible: root.controller.shownTab === "Settings"
-                    secondaryText: root.secondaryText
                 }
                 Label {
                     objectName: "detailLine"

@@ -7,8 +7,6 @@ import Larkspan
 Column {
     id: root
 
-    required property color secondaryText
-
     spacing: 6
     onVisibleChanged: if (visible) StartAtLoginController.refresh()
     Component.onCompleted: StartAtLoginController.refresh()
@@ -33,8 +31,7 @@ Column {
             implicitWidth: 40
             implicitHeight: 22
             radius: height / 2
-            color: toggle.checked ? palette.highlight
-                                  : Qt.rgba(palette.windowText.r, palette.windowText.g, palette.windowText.b, 0.22)
+            color: toggle.checked ? palette.highlight : Theme.tint(Theme.primaryText, Theme.track)
             border.width: toggle.visualFocus ? 2 : 0
             border.color: palette.highlight
 
@@ -44,15 +41,15 @@ Column {
                 width: 16
                 height: 16
                 radius: 8
-                color: "white"
+                color: Theme.onColor
             }
         }
         contentItem: Label {
             leftPadding: toggle.indicator.width + 10
             verticalAlignment: Text.AlignVCenter
             text: toggle.text
-            color: palette.windowText
-            font.pixelSize: 14
+            color: Theme.primaryText
+            font.pixelSize: Theme.fontBody
         }
     }
     Label {
@@ -62,7 +59,7 @@ Column {
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.Wrap
         text: StartAtLoginController.problem
-        color: root.secondaryText
-        font.pixelSize: 12
+        color: Theme.secondaryText
+        font.pixelSize: Theme.fontSmall
     }
 }
