@@ -3,6 +3,7 @@
 # takes everything down again.
 
 e2e_root=$(mktemp -d "${TMPDIR:-/tmp}/larkspan-e2e.XXXXXX")
+e2e_dir=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 e2e_pids=()
 
 fail() {
@@ -45,7 +46,9 @@ wm_running() {
     xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
 }
 
-# start_desktop [bare]: "bare" leaves out the session bus and the tray host.
+# start_desktop [bare|accessible]: "bare" leaves out the session bus and the tray host; "accessible"
+# turns on the accessibility bus and takes a D-Bus tray host (StatusNotifierItem) in place of the
+# XEmbed one, so that a11y.py can drive the tracker as a screen reader and a panel do.
 start_desktop() {
     export HOME="$e2e_root/home" XDG_DATA_HOME="$e2e_root/data" XDG_CONFIG_HOME="$e2e_root/config"
     export XDG_RUNTIME_DIR="$e2e_root/runtime" XDG_CACHE_HOME="$e2e_root/cache"
@@ -70,7 +73,20 @@ start_desktop() {
     background dbus-daemon --session --nofork --address="$DBUS_SESSION_BUS_ADDRESS"
     bus_pid=$!
     wait_until 10 test -S "$XDG_RUNTIME_DIR/bus" || fail "no session bus"
-    start_tray_host
+    if [ "${1:-}" = accessible ]; then
+        export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 LARKSPAN_TRAY_ITEMS="$e2e_root/tray-items"
+        : >"$LARKSPAN_TRAY_ITEMS"
+        background "$e2e_dir/accessibility/tray-host.py" "$LARKSPAN_TRAY_ITEMS"
+        wait_until 10 dbus-send --session --print-reply --dest=org.freedesktop.DBus / \
+            org.freedesktop.DBus.GetNameOwner string:org.kde.StatusNotifierWatcher || fail "no D-Bus tray host"
+    else
+        start_tray_host
+    fi
+}
+
+# a11y ARGS...: the accessibility driver (see accessibility/a11y.py); fails the test when it fails.
+a11y() {
+    "$e2e_dir/accessibility/a11y.py" "$@" || fail "a11y $*"
 }
 
 start_tray_host() {

@@ -1,13 +1,14 @@
 #!/usr/bin/env bash
 # The real tracker on a private desktop: three windows are switched with xdotool, and the store must
 # then hold the activities a user would expect. An application no rule knows waits for the user, who
-# answers the floating approval card without it ever taking the focus. Then a hard kill, a restart,
-# and a quit through the tray menu. Usage: tracker-test.sh path/to/larkspan
+# answers the floating approval card without it ever taking the focus. Then the popover, its timer
+# and the dashboard are used through the accessibility tree, as with a screen reader; then a hard
+# kill, a restart, and a quit through the tray menu. Usage: tracker-test.sh path/to/larkspan
 set -euo pipefail
 larkspan=$1
 . "$(dirname "$0")/desktop-session.sh"
 
-start_desktop
+start_desktop accessible
 
 # Two applications the tracker knows by their desktop entries.
 cat >"$XDG_DATA_HOME/applications/code.desktop" <<'ENTRY'
@@ -75,8 +76,9 @@ sleep 0.5
 popup_window >/dev/null || fail "the approval card stayed behind on the first desktop"
 xdotool set_desktop 0
 xdotool windowactivate --sync "$terminal"
-# The grid offers the most used categories first: Terminal, with two rows, holds the first button.
-xdotool mousemove --window "$popup" 60 100 click 1
+# The grid offers the most used categories first; Terminal has two rows. The answer is given through
+# the accessibility tree, which reaches the card without giving it the focus.
+a11y press "push button" "Terminal"
 popup_gone() { ! xdotool search --onlyvisible --name 'Larkspan — Quick check-in'; }
 wait_until 5 popup_gone || fail "the approval card stayed after an answer"
 check "answered row" "1|2" "SELECT is_approved, category_id FROM activities WHERE app_name = 'Mystery'"
@@ -94,6 +96,32 @@ check "terminal rows" "2|2" \
 check "closed rows under 5 seconds" 0 \
     "SELECT count(*) FROM activities WHERE end_time IS NOT NULL AND duration_seconds < 5"
 
+# The popover, as a screen reader user reaches it from the panel: its timer starts and pauses, and
+# its button opens the dashboard, whose tabs and review button each show their screen.
+a11y tray activate
+a11y has frame "Quick Summary"
+a11y press "push button" "Start focus"
+a11y has "push button" "Pause focus"
+started=$("$e2e_dir/accessibility/a11y.py" text label "~^2[45]:[0-5][0-9]$")
+sleep 2
+a11y press "push button" "Pause focus"
+a11y has "push button" "Resume focus"
+paused=$("$e2e_dir/accessibility/a11y.py" text label "~^2[45]:[0-5][0-9]$")
+[ "$paused" != 25:00 ] && [ "$paused" != "$started" ] || fail "the timer did not run: $started then $paused"
+sleep 1.5
+[ "$("$e2e_dir/accessibility/a11y.py" text label "~^2[45]:[0-5][0-9]$")" = "$paused" ] || fail "the paused timer ran on"
+a11y press "push button" "Open Dashboard"
+a11y gone frame "Quick Summary"
+a11y has frame Larkspan
+for tab in Timeline Focus Calendar Analytics Settings; do
+    a11y press "page tab" "$tab"
+    a11y has "page tab" "$tab" selected
+    a11y has heading "$tab"
+done
+a11y press "page tab" "~^Review Activities"
+a11y has "page tab" "~^Review Activities" selected
+a11y has heading "Review"
+
 # A hard kill loses nothing already written, and a restart neither seeds again nor stops tracking.
 kill -9 "$tracker"
 wait "$tracker" 2>/dev/null || true
@@ -104,11 +132,8 @@ xdotool windowactivate --sync "$editor"
 wait_until 10 has_rows_above "$before" || fail "no new activity after the restart"
 check "categories after restart" 21 "SELECT count(*) FROM categories"
 
-# Quit through the tray menu: right-click the icon, then the menu's last entry.
-wait_until 10 tray_icon_window "$tracker" || fail "no tray icon"
-xdotool mousemove --window "$(tray_icon_window "$tracker")" 8 8 click 3
-sleep 1
-xdotool key Up Return
+# Quit through the tray menu, as a panel offers it.
+a11y tray menu "Quit Larkspan"
 ended() { [ ! -d "/proc/$tracker" ] || grep -q '^State:.*Z' "/proc/$tracker/status"; }
 wait_until 10 ended || fail "Quit Larkspan did not end the tracker"
 status=0

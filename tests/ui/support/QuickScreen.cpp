@@ -1,5 +1,6 @@
 #include "QuickScreen.h"
 
+#include <QAccessible>
 #include <QDir>
 #include <QGuiApplication>
 #include <QQmlComponent>
@@ -191,7 +192,67 @@ QImage QuickScreen::grab() {
     return window_->grabWindow();
 }
 
+namespace {
+
+bool isControl(QAccessible::Role role) {
+    switch (role) {
+    case QAccessible::Button:
+    case QAccessible::CheckBox:
+    case QAccessible::RadioButton:
+    case QAccessible::PageTab:
+    case QAccessible::ListItem:
+    case QAccessible::MenuItem:
+    case QAccessible::Slider:
+    case QAccessible::SpinBox:
+    case QAccessible::EditableText:
+    case QAccessible::ComboBox:
+    case QAccessible::Link:
+        return true;
+    default:
+        return false;
+    }
+}
+
+QString describe(QAccessibleInterface* element) {
+    QObject* object = element->object();
+    return QStringLiteral("%1 \"%2\" (%3)")
+        .arg(QString::fromLatin1(object ? object->metaObject()->className() : "?"),
+             element->text(QAccessible::Name),
+             object && !object->objectName().isEmpty() ? object->objectName() : QStringLiteral("no objectName"));
+}
+
+void audit(QAccessibleInterface* element, QStringList& problems) {
+    if (!element || element->state().invisible)
+        return;
+    const QAccessible::Role role = element->role();
+    QAccessibleActionInterface* actions = element->actionInterface();
+    const QStringList actionNames = actions ? actions->actionNames() : QStringList();
+    const bool pressable = actionNames.contains(QAccessibleActionInterface::pressAction()) ||
+                           actionNames.contains(QAccessibleActionInterface::toggleAction());
+    if ((isControl(role) || pressable) && element->text(QAccessible::Name).trimmed().isEmpty())
+        problems << QStringLiteral("control without a name: ") + describe(element);
+    // A button control's press is its click; anything else that offers one answers nobody.
+    QObject* object = element->object();
+    if (pressable && object && !object->inherits("QQuickAbstractButton"))
+        problems << QStringLiteral("offers Press but is no button: ") + describe(element);
+    for (int i = 0; i < element->childCount(); ++i)
+        audit(element->child(i), problems);
+}
+
+}  // namespace
+
+QStringList QuickScreen::accessibilityProblems() const {
+    QStringList problems;
+    // As when a screen reader starts: every control that exists now publishes its role and actions.
+    QAccessible::setActive(true);
+    if (window_)
+        audit(QAccessible::queryAccessibleInterface(window_), problems);
+    return problems;
+}
+
 bool QuickScreen::saveScreenshot(const QString& test, const QString& state) {
+    for (const QString& problem : accessibilityProblems())
+        qWarning().noquote() << test << state << "is not accessible:" << problem;
     const QImage image = grab();
     const QString dir = QStringLiteral(LARKSPAN_SCREENSHOT_DIR);
     if (image.isNull() || !QDir().mkpath(dir))

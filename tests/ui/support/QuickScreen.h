@@ -69,8 +69,12 @@ public:
     // The window as drawn now, after pending updates.
     QImage grab();
     // Saves grab() as "<test>-<state>-<light|dark>.png" under LARKSPAN_SCREENSHOT_DIR; false when
-    // the image is empty or cannot be written.
+    // the image is empty or cannot be written. Every state a test renders is also audited for
+    // accessibility: a problem is a warning, which fails the test.
     bool saveScreenshot(const QString& test, const QString& state);
+    // What a screen reader could not use in the window as it is now: a control without a name, or an
+    // element offering to be pressed that is not a button and so would do nothing.
+    QStringList accessibilityProblems() const;
 
 private:
     bool create(const QByteArray& qml, const QVariantMap& properties, QSize size);
