@@ -109,7 +109,7 @@ int main(int argc, char** argv) {
     if (session.wayland)
         prompts.emplace(presenter, QDBusConnection::sessionBus());
 
-    StartAtLoginController startAtLoginSwitch;
+    StartAtLoginController startAtLoginSwitch(nullptr);
     startAtLoginSwitch.setStartAtLogin(&startAtLogin, notifier.get());
     StartAtLoginController::share(&startAtLoginSwitch);
     presenter.tray().setStartAtLogin(&startAtLoginSwitch);

@@ -60,6 +60,12 @@ private slots:
             screen.setColorScheme(scheme);
             QVERIFY(screen.saveScreenshot("approval", "six"));
         }
+        // Brought to the keyboard, the card rings the focused answer.
+        QVERIFY(screen.focusByKeyboard("category-0"));
+        for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+            screen.setColorScheme(scheme);
+            QVERIFY(screen.saveScreenshot("approval", "focus-ring"));
+        }
         QVERIFY(screen.click("category-1"));
         QCOMPARE(answers, Answers{4});
         QVERIFY(!controller.counting());

@@ -216,6 +216,18 @@ private slots:
         controller.dayTapped(1'763'000'000);
         QCOMPARE(screen.text("detailTitle"), QStringLiteral("Timeline"));
         QCOMPARE(controller.selectedDate(), 1'763'000'000.0);
+
+        // The keyboard's way through the tab list: a ring on the focused tab, the arrows move it.
+        QVERIFY(screen.focusByKeyboard("tab-Timeline"));
+        QTest::keyClick(screen.window(), Qt::Key_Down);
+        QVERIFY(screen.find("tab-Focus")->hasActiveFocus());
+        QTest::keyClick(screen.window(), Qt::Key_Return);
+        QCOMPARE(controller.selectedTab(), QStringLiteral("Focus"));
+        QTest::keyClick(screen.window(), Qt::Key_Down);
+        for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+            screen.setColorScheme(scheme);
+            QVERIFY(screen.saveScreenshot("dashboard", "focus-ring"));
+        }
     }
 
     void withoutTrayTheDashboardOpensAndIsReusedWithItsState() {

@@ -75,6 +75,7 @@ Pane {
             }
             Button {
                 objectName: "back"
+                Accessible.name: "Previous day"
                 icon.source: Icons.source("chevron.left")
                 icon.color: palette.buttonText
                 display: AbstractButton.IconOnly

@@ -207,8 +207,11 @@ private slots:
         QCOMPARE(screen.text("timerMode"), QStringLiteral("Focus"));
         screenshots(screen, "timer-idle");
 
+        // The button's name follows the run state.
+        QCOMPARE(screen.accessibleName("timerMainButton"), QStringLiteral("Start focus"));
         QVERIFY(screen.click("timerMainButton"));
         QCOMPARE(day.pomodoro.runState.get(), PomodoroTimer::RunState::running);
+        QCOMPARE(screen.accessibleName("timerMainButton"), QStringLiteral("Pause focus"));
         QCOMPARE(mainButton->property("symbol").toString(), QStringLiteral("pause.fill"));
         day.timers.advance(450);
         QVERIFY(screen.click("timerMainButton"));
@@ -217,8 +220,12 @@ private slots:
         QCOMPARE(mainButton->property("symbol").toString(), QStringLiteral("play.fill"));
         QVERIFY(visible(screen, "timerStopButton"));
         QCOMPARE(screen.text("timerTime"), QStringLiteral("17:30"));
+        QCOMPARE(screen.accessibleName("timerMainButton"), QStringLiteral("Resume focus"));
+        QCOMPARE(screen.accessibleName("timerRing"), QStringLiteral("Focus session 30 % done"));
         QTest::qWait(600);
         screenshots(screen, "timer-paused");
+        QVERIFY(screen.focusByKeyboard("timerMainButton"));
+        screenshots(screen, "focus-ring");
         QVERIFY(screen.click("timerMainButton"));
         QCOMPARE(day.pomodoro.runState.get(), PomodoroTimer::RunState::running);
 

@@ -23,7 +23,7 @@ struct Setup {
     test::MemoryKeyValueStore settings;
     test::RecordingNotifier notifier;
     StartAtLogin startAtLogin{entry, "/usr/bin/larkspan", settings};
-    StartAtLoginController controller;
+    StartAtLoginController controller{nullptr};
     QuickScreen screen;
     TrayIcon tray;
     ~Setup() { StartAtLoginController::share(nullptr); }
@@ -33,9 +33,9 @@ struct Setup {
         controller.setStartAtLogin(&startAtLogin, &notifier);
         StartAtLoginController::share(&controller);
         tray.setMenuItems([] {
-            return std::vector<MenuItem>{{"Open Dashboard", "d", MenuItem::Action::openDashboard},
-                                         {"", "", MenuItem::Action::separator},
-                                         {"Quit Larkspan", "q", MenuItem::Action::quit}};
+            return std::vector<MenuItem>{{"Open Dashboard", MenuItem::Action::openDashboard},
+                                         {"", MenuItem::Action::separator},
+                                         {"Quit Larkspan", MenuItem::Action::quit}};
         });
         tray.setStartAtLogin(&controller);
         return screen.load("StartAtLoginSwitch", {}, {480, 90});

@@ -4,26 +4,33 @@ import QtQuick.Layouts
 import Larkspan
 
 // The sidebar's way to the review screen while activities wait for a category. Selected it is
-// orange with white texts; otherwise a light orange wash with the usual texts.
-Rectangle {
+// orange with white texts; otherwise a light orange wash with the usual texts. The last page tab of
+// the sidebar to a screen reader and to the keyboard.
+AbstractButton {
     id: button
 
     required property DashboardController controller
 
     readonly property bool selected: controller.shownTab === controller.reviewTab
 
-    implicitHeight: content.implicitHeight + 20
-    radius: 8
-    color: selected ? Theme.orange : Theme.tint(Theme.orange, Theme.faintWash)
-    Accessible.role: Accessible.Button
+    padding: 10
+    focusPolicy: Qt.StrongFocus
+    Accessible.role: Accessible.PageTab
     Accessible.name: controller.reviewButton.title + ", " + controller.reviewButton.detail
-    Accessible.onPressAction: controller.openReview()
+    Accessible.selectable: true
+    Accessible.selected: selected
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
+    Keys.onUpPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+    onClicked: controller.openReview()
 
-    RowLayout {
-        id: content
-        anchors.fill: parent
-        anchors.leftMargin: 10
-        anchors.rightMargin: 10
+    background: Rectangle {
+        radius: 8
+        color: button.selected ? Theme.orange : Theme.tint(Theme.orange, Theme.faintWash)
+        border.width: button.visualFocus ? 2 : 0
+        border.color: button.selected ? Theme.onColor : palette.highlight
+    }
+    contentItem: RowLayout {
         spacing: 10
 
         SymbolIcon {
@@ -63,11 +70,5 @@ Rectangle {
             size: 14
             color: button.selected ? Theme.onColorTertiary : Theme.secondaryText
         }
-    }
-
-    MouseArea {
-        anchors.fill: parent
-        cursorShape: Qt.PointingHandCursor
-        onClicked: button.controller.openReview()
     }
 }

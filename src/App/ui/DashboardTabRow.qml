@@ -3,32 +3,40 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Larkspan
 
-// One row of the dashboard's tab list: the tab's symbol and label, highlighted while selected.
+// One row of the dashboard's tab list: the tab's symbol and label, highlighted while selected. A page
+// tab to a screen reader; Tab reaches the list, the arrow keys move within it, Return or Space selects.
 // A row of the controller's tab model.
-Rectangle {
+AbstractButton {
     id: row
 
     required property string label
     required property string symbol
     property bool selected: false
 
-    signal clicked()
-
+    text: label
     implicitHeight: 32
-    radius: 6
-    color: selected ? palette.highlight : mouse.containsMouse ? Theme.hover : "transparent"
+    hoverEnabled: true
+    focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.PageTab
     Accessible.name: label
+    Accessible.selectable: true
     Accessible.selected: selected
-    Accessible.onPressAction: row.clicked()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
+    Keys.onUpPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+    Keys.onDownPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
 
-    RowLayout {
-        anchors.fill: parent
-        anchors.leftMargin: 10
-        anchors.rightMargin: 10
+    background: Rectangle {
+        radius: 6
+        color: row.selected ? palette.highlight : row.hovered ? Theme.hover : "transparent"
+        border.width: row.visualFocus ? 2 : 0
+        border.color: row.selected ? palette.highlightedText : palette.highlight
+    }
+    contentItem: RowLayout {
         spacing: Theme.spacingLarge
 
         SymbolIcon {
+            Layout.leftMargin: 10
             Layout.alignment: Qt.AlignVCenter
             name: row.symbol
             size: 16
@@ -36,18 +44,11 @@ Rectangle {
         }
         Label {
             Layout.fillWidth: true
+            Layout.rightMargin: 10
             text: row.label
             elide: Text.ElideRight
             color: row.selected ? palette.highlightedText : palette.windowText
             font.pixelSize: Theme.fontBody
         }
-    }
-
-    MouseArea {
-        id: mouse
-        anchors.fill: parent
-        hoverEnabled: true
-        cursorShape: Qt.PointingHandCursor
-        onClicked: row.clicked()
     }
 }

@@ -126,6 +126,8 @@ Rectangle {
                 Label {
                     objectName: "detailTitle"
                     Layout.fillWidth: true
+                    Accessible.role: Accessible.Heading
+                    Accessible.name: text
                     horizontalAlignment: Text.AlignHCenter
                     text: root.controller.shownTab
                     color: palette.windowText

@@ -15,7 +15,6 @@
 #include <QObject>
 #include <QTimer>
 #include <functional>
-#include <map>
 #include <optional>
 #include <vector>
 
@@ -92,7 +91,7 @@ private:
     std::function<void()> onOpenDashboard_;
     std::function<void()> onOpenReview_;
 
-    std::map<std::int64_t, Category> categories_;  // of the last load
+    CategoriesByID categories_;  // of the last load
     SummaryDay day_;
     ValueListModel<BreakdownBarItem> breakdownBars_;
     ValueListModel<RecentRowItem> recentRows_;

@@ -15,6 +15,11 @@ Pane {
     implicitHeight: 420
     padding: 0
 
+    Shortcut {
+        sequence: StandardKey.Cancel
+        onActivated: root.Window.window.close()
+    }
+
     ColumnLayout {
         anchors.fill: parent
         spacing: 0

@@ -28,7 +28,8 @@ class StartAtLoginController final : public QObject {
     Q_PROPERTY(QString problem READ problem NOTIFY changed)
 
 public:
-    explicit StartAtLoginController(QObject* parent = nullptr);
+    // Not default-constructible, so that QML takes its instance from create().
+    explicit StartAtLoginController(QObject* parent);
 
     // QML's instance: the shared one, else an unavailable one owned by the engine.
     static StartAtLoginController* create(QQmlEngine* engine, QJSEngine*);

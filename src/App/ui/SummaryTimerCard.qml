@@ -28,6 +28,9 @@ Rectangle {
         Item {
             id: ring
             objectName: "timerRing"
+            Accessible.role: Accessible.ProgressBar
+            Accessible.name: qsTr("%1 session %2 % done").arg(card.timer.modeName)
+                                                          .arg(Math.round(100 * Math.min(1, Math.max(0, card.timer.progress))))
             implicitWidth: 38
             implicitHeight: 38
             property real shownProgress: card.timer.progress
@@ -84,7 +87,8 @@ Rectangle {
         RoundButton {
             objectName: "timerStopButton"
             visible: card.timer.showsStop
-            Accessible.name: qsTr("Stop")
+            // The mode's name makes the action plain: "Stop focus", "Stop short break".
+            Accessible.name: qsTr("Stop %1").arg(card.timer.modeName.toLowerCase())
             icon.source: Icons.source("stop.fill")
             icon.color: card.timer.color
             icon.width: 12
@@ -95,6 +99,8 @@ Rectangle {
             background: Rectangle {
                 radius: height / 2
                 color: Theme.tint(card.timer.color, parent.down ? Theme.buttonPressed : Theme.buttonWash)
+                border.width: parent.visualFocus ? 2 : 0
+                border.color: palette.highlight
             }
             onClicked: card.controller.stopTimer()
         }
@@ -102,7 +108,9 @@ Rectangle {
         RoundButton {
             objectName: "timerMainButton"
             property string symbol: card.timer.mainSymbol
-            Accessible.name: symbol === "pause.fill" ? qsTr("Pause") : qsTr("Start")
+            Accessible.name: (symbol === "pause.fill" ? qsTr("Pause %1")
+                                                      : card.timer.showsStop ? qsTr("Resume %1") : qsTr("Start %1"))
+                                 .arg(card.timer.modeName.toLowerCase())
             icon.source: Icons.source(symbol)
             icon.color: Theme.onColor
             icon.width: 14
@@ -114,6 +122,8 @@ Rectangle {
                 radius: height / 2
                 color: card.timer.color
                 opacity: parent.down ? Theme.pressedFill : 1
+                border.width: parent.visualFocus ? 2 : 0
+                border.color: palette.highlight
             }
             onClicked: card.controller.toggleTimer()
         }

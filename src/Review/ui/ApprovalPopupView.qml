@@ -14,6 +14,12 @@ PromptCard {
     implicitWidth: 340
     implicitHeight: 200
 
+    // Once the person has brought the card to the keyboard, Escape answers as "Skip" does.
+    Shortcut {
+        sequence: StandardKey.Cancel
+        onActivated: root.controller.skip()
+    }
+
     Component.onCompleted: controller.startCountdown()
 
     HoverHandler {

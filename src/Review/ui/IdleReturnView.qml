@@ -13,6 +13,12 @@ PromptCard {
     implicitWidth: 340
     implicitHeight: 200
 
+    // Once the person has brought the card to the keyboard, Escape answers as "Dismiss" does.
+    Shortcut {
+        sequence: StandardKey.Cancel
+        onActivated: root.controller.dismiss()
+    }
+
     ColumnLayout {
         anchors.fill: parent
         anchors.margins: 14

@@ -47,7 +47,7 @@ AbstractButton {
         radius: 8
         color: Theme.tint(control.tint, control.down ? Theme.tilePressed
                                                      : control.hovered ? Theme.tileHover : Theme.track)
-        border.width: 1
-        border.color: Theme.tint(control.tint, Theme.tilePressed)
+        border.width: control.visualFocus ? 2 : 1
+        border.color: control.visualFocus ? palette.highlight : Theme.tint(control.tint, Theme.tilePressed)
     }
 }

@@ -180,6 +180,14 @@ bool QuickScreen::hover(const QString& objectName) {
     return true;
 }
 
+bool QuickScreen::focusByKeyboard(const QString& objectName) {
+    QQuickItem* item = find(objectName);
+    if (!item || !item->isVisible())
+        return false;
+    item->forceActiveFocus(Qt::TabFocusReason);
+    return item->hasActiveFocus();
+}
+
 QString QuickScreen::text(const QString& objectName) const {
     const QQuickItem* item = find(objectName);
     return item ? item->property("text").toString() : QString();
@@ -213,11 +221,20 @@ bool isControl(QAccessible::Role role) {
     }
 }
 
+// The name a screen reader hears. Offscreen, a control that shows a text does not publish it as its
+// name (no accessibility bridge runs to ask for it), as it does on the accessibility bus.
+QString nameOf(QAccessibleInterface* element) {
+    QString name = element->text(QAccessible::Name);
+    if (name.trimmed().isEmpty() && element->object())
+        name = element->object()->property("text").toString();
+    return name;
+}
+
 QString describe(QAccessibleInterface* element) {
     QObject* object = element->object();
     return QStringLiteral("%1 \"%2\" (%3)")
         .arg(QString::fromLatin1(object ? object->metaObject()->className() : "?"),
-             element->text(QAccessible::Name),
+             nameOf(element),
              object && !object->objectName().isEmpty() ? object->objectName() : QStringLiteral("no objectName"));
 }
 
@@ -229,7 +246,7 @@ void audit(QAccessibleInterface* element, QStringList& problems) {
     const QStringList actionNames = actions ? actions->actionNames() : QStringList();
     const bool pressable = actionNames.contains(QAccessibleActionInterface::pressAction()) ||
                            actionNames.contains(QAccessibleActionInterface::toggleAction());
-    if ((isControl(role) || pressable) && element->text(QAccessible::Name).trimmed().isEmpty())
+    if ((isControl(role) || pressable) && nameOf(element).trimmed().isEmpty())
         problems << QStringLiteral("control without a name: ") + describe(element);
     // A button control's press is its click; anything else that offers one answers nobody.
     QObject* object = element->object();
@@ -240,6 +257,13 @@ void audit(QAccessibleInterface* element, QStringList& problems) {
 }
 
 }  // namespace
+
+QString QuickScreen::accessibleName(const QString& objectName) const {
+    QQuickItem* item = find(objectName);
+    QAccessible::setActive(true);
+    QAccessibleInterface* element = item ? QAccessible::queryAccessibleInterface(item) : nullptr;
+    return element ? nameOf(element) : QString();
+}
 
 QStringList QuickScreen::accessibilityProblems() const {
     QStringList problems;

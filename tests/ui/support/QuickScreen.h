@@ -63,6 +63,10 @@ public:
     // not visible.
     bool click(const QString& objectName);
     bool hover(const QString& objectName);
+    // What a screen reader calls the item; empty when it has no accessible element.
+    QString accessibleName(const QString& objectName) const;
+    // Gives the item the keyboard focus as the Tab key does, which shows its focus ring.
+    bool focusByKeyboard(const QString& objectName);
     // The item's `text` property; empty when there is none.
     QString text(const QString& objectName) const;
 
