@@ -3,10 +3,10 @@
 #include "Platform/Linux/X11Workspace.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <ctime>
 #include <fstream>
 #include <thread>
 
@@ -27,10 +27,6 @@ const std::filesystem::path kData = LARKSPAN_PLATFORM_TEST_DATA;
 class X11WorkspaceTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        if (!test::XvfbDisplay::xvfbInstalled()) {
-            GTEST_SKIP()
-                << "Xvfb is not installed; scripts/install-deps installs it. Skipping the X11 tests.";
-        }
         display = std::make_unique<test::XvfbDisplay>(displayOptions());
         ASSERT_TRUE(display->ready()) << display->error();
     }
@@ -274,22 +270,14 @@ TEST_F(X11WorkspaceTest, SurvivesTheServerGoingAwayAndReconnects) {
     bringToFront(*workspace, windowOf("LarkspanAlpha"), "LarkspanAlpha");
 
     display->stopServer();
-    rusage before{};
-    getrusage(RUSAGE_SELF, &before);
+    const std::clock_t before = std::clock();
     EXPECT_FALSE(workspace->frontmostApplication());
     EXPECT_FALSE(workspace->canReadWindows());
     EXPECT_EQ(workspace->secondsSinceLastInput(), 0);
     EXPECT_TRUE(workspace->runningApplications().empty());
     std::this_thread::sleep_for(1500ms);
-    rusage after{};
-    getrusage(RUSAGE_SELF, &after);
     // Waiting for the server is sleeping, not spinning: a busy loop would burn the whole interval.
-    const double cpu =
-        (after.ru_utime.tv_sec - before.ru_utime.tv_sec + after.ru_stime.tv_sec - before.ru_stime.tv_sec) +
-        (after.ru_utime.tv_usec - before.ru_utime.tv_usec + after.ru_stime.tv_usec -
-         before.ru_stime.tv_usec) /
-            1e6;
-    EXPECT_LT(cpu, 0.5);
+    EXPECT_LT(static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC, 0.5);
 
     ASSERT_TRUE(display->restartServer()) << display->error();
     xterm("LarkspanBack", "Back again");

@@ -18,7 +18,7 @@ ActivityRecord record(Date start, std::int64_t seconds, std::int64_t category) {
     return test::ActivityBuilder(0, start, seconds).category(category);
 }
 
-TEST(AnalyticsPage, TilesCountEverySessionAndDay) {
+TEST(AnalyticsPage, TilesCountEverySessionAndDayAndAnEmptyPeriodGivesZeros) {
     ScopedTimeZone zone{"Europe/Berlin"};
     // Seven focus sessions of 30 minutes on two days, an hour apart, and an hour of gaming.
     AnalyticsData data;
@@ -34,17 +34,13 @@ TEST(AnalyticsPage, TilesCountEverySessionAndDay) {
     EXPECT_EQ(page.dailyBars[0].height, 104);  // 7200 of the second day's 9000 seconds
     EXPECT_EQ(page.dailyBars[1].height, kDailyChartHeight);
     EXPECT_EQ(page.hourlyColumns[2].height, kHourlyChartHeight);  // 08:00, 15 minutes a day
-}
 
-TEST(AnalyticsPage, EmptyPeriodGivesZerosAndEmptyStates) {
-    const AnalyticsPage page = analyticsPage({}, Category::seeded());
-    EXPECT_EQ(page.summary, AnalyticsSummary{});
-    EXPECT_TRUE(page.dailyBars.empty());
-    EXPECT_TRUE(page.hourlyMinutes.empty());
-    EXPECT_TRUE(page.focusSessions.empty());
-    EXPECT_TRUE(page.categories.empty());
-    EXPECT_TRUE(page.applications.empty());
-    EXPECT_EQ(page.hourlyColumns.size(), 18u);
+    // An empty period: zeros, empty lists, and the chart's columns all the same.
+    const AnalyticsPage empty = analyticsPage({}, Category::seeded());
+    EXPECT_EQ(empty.summary, AnalyticsSummary{});
+    EXPECT_TRUE(empty.dailyBars.empty() && empty.hourlyMinutes.empty() && empty.focusSessions.empty() &&
+                empty.categories.empty() && empty.applications.empty());
+    EXPECT_EQ(empty.hourlyColumns.size(), 18u);
 }
 
 }  // namespace
