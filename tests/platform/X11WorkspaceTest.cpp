@@ -74,26 +74,23 @@ protected:
         return name;
     }
 
-    // Activates the window until the workspace sees that application in front. A window manager
-    // ignores requests for a window it is still taking over, hence the repeats.
-    void bringToFront(Workspace& workspace, const std::string& window, const std::string& expectedID) {
-        bool front = false;
-        for (int attempt = 0; attempt < 10 && !front; ++attempt) {
+    // Activates the window until `done` holds. A window manager ignores requests for a window it is
+    // still taking over, hence the repeats.
+    bool activateUntil(const std::string& window, const std::function<bool()>& done) {
+        for (int attempt = 0; attempt < 10; ++attempt) {
             display->activate(window);
-            front = test::waitUntil([&] { return frontmostID(workspace) == expectedID; }, 500ms);
+            if (test::waitUntil(done, 500ms))
+                return true;
         }
-        ASSERT_TRUE(front) << "front: " << frontmostID(workspace) << ", expected " << expectedID;
+        return false;
     }
-
-    // Activates the window until the focused window of `pid` has this title.
+    void bringToFront(Workspace& workspace, const std::string& window, const std::string& expectedID) {
+        ASSERT_TRUE(activateUntil(window, [&] { return frontmostID(workspace) == expectedID; }))
+            << "front: " << frontmostID(workspace) << ", expected " << expectedID;
+    }
     void focus(Workspace& workspace, const std::string& window, std::int64_t pid, const std::string& title) {
-        bool focused = false;
-        for (int attempt = 0; attempt < 10 && !focused; ++attempt) {
-            display->activate(window);
-            focused = test::waitUntil([&] { return workspace.focusedWindowTitle(pid) == title; }, 500ms);
-        }
-        ASSERT_TRUE(focused) << workspace.focusedWindowTitle(pid).value_or("(none)") << ", expected "
-                             << title;
+        ASSERT_TRUE(activateUntil(window, [&] { return workspace.focusedWindowTitle(pid) == title; }))
+            << workspace.focusedWindowTitle(pid).value_or("(none)") << ", expected " << title;
     }
 
     std::unique_ptr<test::XvfbDisplay> display;

@@ -22,7 +22,8 @@ public:
         bool windowManager = true;         // openbox
     };
 
-    explicit XvfbDisplay(Options options = {});
+    explicit XvfbDisplay(Options options);
+    XvfbDisplay() : XvfbDisplay(Options{}) {}
     ~XvfbDisplay();
     XvfbDisplay(const XvfbDisplay&) = delete;
     XvfbDisplay& operator=(const XvfbDisplay&) = delete;
