@@ -4,27 +4,22 @@
 
 #include <vector>
 
-#include "ActivityBuilder.h"
+#include "CategorizedRecord.h"
 #include "LocalInstant.h"
 #include "ScopedTimeZone.h"
 
 namespace larkspan::analytics {
 namespace {
 
-using test::localInstant;
-using test::ScopedTimeZone;
-
-ActivityRecord record(Date start, std::int64_t seconds, std::int64_t category) {
-    return test::ActivityBuilder(0, start, seconds).category(category);
-}
+using namespace test;
 
 TEST(AnalyticsPage, TilesCountEverySessionAndDayAndAnEmptyPeriodGivesZeros) {
     ScopedTimeZone zone{"Europe/Berlin"};
     // Seven focus sessions of 30 minutes on two days, an hour apart, and an hour of gaming.
     AnalyticsData data;
     for (int i = 0; i < 7; ++i)
-        data.activities.push_back(record(localInstant(2026, 4, 1 + i / 4, 8 + i), 1800, 1));
-    data.activities.push_back(record(localInstant(2026, 4, 2, 20), 3600, 19));
+        data.activities.push_back(record(localInstant(2026, 4, 1 + i / 4, 8 + i), 1800));
+    data.activities.push_back(record(localInstant(2026, 4, 2, 20), 3600, kGaming));
     data.totalPomos = 4;
     const AnalyticsPage page = analyticsPage(data, Category::seeded());
     EXPECT_EQ(page.summary, (AnalyticsSummary{16200, 12600, 77, 4, 7, 2}));

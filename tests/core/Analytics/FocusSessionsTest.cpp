@@ -6,22 +6,14 @@
 #include <optional>
 #include <vector>
 
-#include "ActivityBuilder.h"
+#include "CategorizedRecord.h"
 
 namespace larkspan::analytics {
 namespace {
 
-constexpr std::int64_t kCoding = 1;        // productive
-constexpr std::int64_t kSocialMedia = 17;  // unproductive
-constexpr Date kNine = 1'767'258'000;      // any instant; sessions don't depend on the zone
+using namespace test;
 
-ActivityRecord record(Date start, std::int64_t seconds, std::optional<std::int64_t> category = kCoding) {
-    return test::ActivityBuilder(0, start, seconds).category(category);
-}
-
-std::vector<FocusSession> sessionsOf(const std::vector<ActivityRecord>& records) {
-    return focusSessions(records, makeCategoryMap(Category::seeded()));
-}
+constexpr Date kNine = 1'767'258'000;  // any instant; sessions don't depend on the zone
 
 TEST(FocusSessions, RunsOfProductiveWorkFromTwentyFiveMinutesJoinedAcrossGapsUpToFiveMinutes) {
     auto open = record(kNine, 1000);
@@ -65,13 +57,13 @@ TEST(FocusSessions, RunsOfProductiveWorkFromTwentyFiveMinutesJoinedAcrossGapsUpT
          {{kNine, kNine + 200, 2100}, {kNine + 501, kNine + 2101, 1600}}},
     };
     for (const Case& c : cases)
-        EXPECT_EQ(sessionsOf(c.records), c.sessions) << c.name;
+        EXPECT_EQ(focusSessions(c.records, seededMap()), c.sessions) << c.name;
 }
 
 TEST(FocusSessions, LongestFirstInStartOrderWhenEqual) {
     // Records arrive out of order; they are sorted by start before runs are formed.
-    const auto sessions =
-        sessionsOf({record(kNine + 20000, 1500), record(kNine + 10000, 2000), record(kNine, 1500)});
+    const auto sessions = focusSessions(
+        {record(kNine + 20000, 1500), record(kNine + 10000, 2000), record(kNine, 1500)}, seededMap());
     EXPECT_EQ(sessions, (std::vector<FocusSession>{{kNine + 10000, kNine + 12000, 2000},
                                                    {kNine, kNine + 1500, 1500},
                                                    {kNine + 20000, kNine + 21500, 1500}}));

@@ -58,11 +58,7 @@ TEST(ApprovalPopup, GridAndMenuSplitTheCatalogue) {
     EXPECT_EQ(menu.back().id, 21);
     EXPECT_TRUE(ApprovalPopup::otherCategories({}, {1}).empty());
     EXPECT_TRUE(answers.given.empty());
-
-    Category category;
-    category.icon = "\U0001F4BB";
-    category.name = "Coding";
-    EXPECT_EQ(ApprovalPopup::menuTitle(category), "\U0001F4BB Coding");
+    EXPECT_EQ(ApprovalPopup::menuTitle(Category::seeded()[0]), "\U0001F4BB Coding");
 }
 
 TEST(ApprovalPopup, UntouchedCardAnswersNoneAfter45TicksOnce) {
