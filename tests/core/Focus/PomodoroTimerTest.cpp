@@ -56,7 +56,16 @@ private:
 };
 
 TEST_F(PomodoroTimerTest, EveryTransitionOfTheStateTable) {
-    enum class Event { start, pause, stop, skip, switchToLongBreak, tick, tickToZero };
+    using Event = void (*)(Rig&, PomodoroTimer&);
+    const Event start = [](Rig&, PomodoroTimer& t) { t.start(); };
+    const Event pause = [](Rig&, PomodoroTimer& t) { t.pause(); };
+    const Event stop = [](Rig&, PomodoroTimer& t) { t.stop(); };
+    const Event skip = [](Rig&, PomodoroTimer& t) { t.skip(); };
+    const Event switchToLongBreak = [](Rig&, PomodoroTimer& t) { t.switchMode(Mode::longBreak); };
+    const Event tick = [](Rig& r, PomodoroTimer&) { r.hub.advance(1); };
+    const Event tickToZero = [](Rig& r, PomodoroTimer& t) {
+        r.hub.advance(static_cast<double>(t.secondsLeft.get()));
+    };
     struct Row {
         const char* name;
         RunState from;
@@ -71,7 +80,6 @@ TEST_F(PomodoroTimerTest, EveryTransitionOfTheStateTable) {
     };
     using enum RunState;
     using enum Mode;
-    using enum Event;
     // clang-format off
     const Row rows[] = {
         {"start from idle",            idle,    focus,      start,             running, focus,      7, 0, 1500, {"Tink"}},
@@ -112,29 +120,7 @@ TEST_F(PomodoroTimerTest, EveryTransitionOfTheStateTable) {
         rig.sounds.played.clear();
         rig.defaults.setInteger("pomo_count", 7);  // filed meanwhile; only a start reloads it
 
-        switch (row.event) {
-            case start:
-                timer->start();
-                break;
-            case pause:
-                timer->pause();
-                break;
-            case stop:
-                timer->stop();
-                break;
-            case skip:
-                timer->skip();
-                break;
-            case switchToLongBreak:
-                timer->switchMode(longBreak);
-                break;
-            case tick:
-                rig.hub.advance(1);
-                break;
-            case tickToZero:
-                rig.hub.advance(static_cast<double>(timer->secondsLeft.get()));
-                break;
-        }
+        row.event(rig, *timer);
 
         EXPECT_EQ(timer->runState.get(), row.to);
         EXPECT_EQ(timer->mode.get(), row.mode);
