@@ -38,7 +38,8 @@ TEST_F(ActivityMonitorTest, StartPollsAtOnceEveryFourSecondsAndOnActivationUntil
     monitor->start();
     settle();
     ASSERT_EQ(published.size(), 1u);
-    EXPECT_EQ(*published[0], (RawActivity{"Terminal", "org.gnome.Terminal", "~/src"}));
+    EXPECT_EQ(*published[0],
+              (RawActivity{"Terminal", "org.gnome.Terminal", "~/src", std::nullopt, std::nullopt}));
     EXPECT_EQ(published[0]->windowTitle, "~/src");
 
     run(3.9);
