@@ -49,7 +49,7 @@ TEST(StatusTitle, SegmentsOfEveryIconLabelTimerAndPendingCase) {
          {{"\U0001F4BB Coding"}, timerSegment("  \U0001F345 24:59")}},
         {"break paused: the cup, the pause mark, the secondary colour", session("Code", 1), 0, {true, true, false, "04:10"},
          {{"\U0001F4BB Coding"}, timerSegment("  \u2615\u23F8 04:10", TitleColor::secondaryLabel)}},
-        {"pending count with the timer idle", std::nullopt, 3, off, {starting, badge("  3 \u25CF")}},
+        {"one pending with the timer idle", std::nullopt, 1, off, {starting, badge("  1 \u25CF")}},
         {"everything at once", session("Away", 15), 12, {true, false, true, "100:00"},
          {{"\u2615 Away"}, timerSegment("  \U0001F345 100:00"), badge("  12 \u25CF")}},
     };
