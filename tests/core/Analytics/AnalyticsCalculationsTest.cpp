@@ -6,22 +6,14 @@
 #include <string>
 #include <vector>
 
-#include "ActivityBuilder.h"
+#include "CategorizedRecord.h"
 #include "LocalInstant.h"
 #include "ScopedTimeZone.h"
 
 namespace larkspan::analytics {
 namespace {
 
-using test::localInstant;
-using test::ScopedTimeZone;
-
-constexpr std::int64_t kCoding = 1;   // productive
-constexpr std::int64_t kGaming = 19;  // unproductive
-
-ActivityRecord record(Date start, std::int64_t seconds, std::optional<std::int64_t> category = kCoding) {
-    return test::ActivityBuilder(0, start, seconds).category(category);
-}
+using namespace test;
 
 TEST(FormatTime, SecondsMinutesOrHoursAndMinutesTruncated) {
     const std::pair<std::int64_t, const char*> cases[] = {
@@ -40,7 +32,7 @@ TEST(DayLabel, PartAfterTheLastSlash) {
 }
 
 TEST(PeriodTotals, ProductiveOnlyForKnownProductiveCategories) {
-    const CategoriesByID catMap = categoriesByID(Category::seeded());
+    const CategoriesByID& catMap = seededMap();
     // No category reads as "Other" (neutral); id 99 is not in the catalogue and never productive.
     const std::vector<ActivityRecord> records = {record(0, 2000), record(0, 500, std::nullopt),
                                                  record(0, 700, 99), record(0, 800, kGaming)};

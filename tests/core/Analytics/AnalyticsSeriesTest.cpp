@@ -6,27 +6,14 @@
 #include <string>
 #include <vector>
 
-#include "ActivityBuilder.h"
+#include "CategorizedRecord.h"
 #include "LocalInstant.h"
 #include "ScopedTimeZone.h"
 
 namespace larkspan::analytics {
 namespace {
 
-using test::localInstant;
-using test::ScopedTimeZone;
-
-constexpr std::int64_t kCoding = 1;  // productive
-constexpr std::int64_t kMusic = 12;  // neutral
-
-ActivityRecord record(Date start, std::int64_t seconds, std::optional<std::int64_t> category = kCoding) {
-    return test::ActivityBuilder(0, start, seconds).category(category);
-}
-
-const CategoriesByID& seeded() {
-    static const CategoriesByID map = categoriesByID(Category::seeded());
-    return map;
-}
+using namespace test;
 
 TEST(HourlyProductiveMinutes, AveragesOverDaysWithAnyRecord) {
     ScopedTimeZone zone{"Europe/Berlin"};
@@ -36,15 +23,15 @@ TEST(HourlyProductiveMinutes, AveragesOverDaysWithAnyRecord) {
         record(localInstant(2026, 6, 2, 14), 600, kMusic),
         record(localInstant(2026, 6, 3, 23, 50), 1200, kMusic),
     };
-    EXPECT_EQ(hourlyProductiveMinutes(records, seeded()), (HourlyMinutes{{9, 20.0}}));
+    EXPECT_EQ(hourlyProductiveMinutes(records, seededMap()), (HourlyMinutes{{9, 20.0}}));
     // No records at all: nothing to average, and no division by zero.
-    EXPECT_TRUE(hourlyProductiveMinutes({}, seeded()).empty());
+    EXPECT_TRUE(hourlyProductiveMinutes({}, seededMap()).empty());
 }
 
 TEST(HourlyProductiveMinutes, LongActivityCountsWhollyInItsFirstHour) {
     ScopedTimeZone zone{"Europe/Berlin"};
     const auto minutes =
-        hourlyProductiveMinutes({record(localInstant(2026, 6, 1, 8, 30), 5 * 3600)}, seeded());
+        hourlyProductiveMinutes({record(localInstant(2026, 6, 1, 8, 30), 5 * 3600)}, seededMap());
     EXPECT_EQ(minutes, (HourlyMinutes{{8, 300.0}}));
 }
 
@@ -57,7 +44,7 @@ TEST(HourlyProductiveMinutes, HoursOfAClockChangeDayAreLocalHours) {
     const auto minutes = hourlyProductiveMinutes(
         {record(spring + 1.5 * 3600, 600), record(spring + 2.5 * 3600, 600), record(spring + 12 * 3600, 600),
          record(autumn + 1.5 * 3600, 600), record(autumn + 2.5 * 3600, 600), record(autumn + 12 * 3600, 600)},
-        seeded());
+        seededMap());
     EXPECT_EQ(minutes, (HourlyMinutes{{1, 15.0}, {3, 5.0}, {11, 5.0}, {13, 5.0}}));
 }
 
@@ -89,7 +76,7 @@ TEST(DailySeries, WeekOverNewYearRunsFromDecemberToJanuary) {
     for (int day = 28; day <= 34; ++day)
         records.push_back(record(localInstant(2026, 12, day, 10), 600 * (day - 27)));
     std::string labels;
-    for (const DailyBar& bar : dailySeries(records, seeded(), 130))
+    for (const DailyBar& bar : dailySeries(records, seededMap(), 130))
         labels += bar.label + " ";
     EXPECT_EQ(labels, "28 29 30 31 01 02 03 ");
 }
@@ -103,7 +90,7 @@ TEST(DailySeries, BarsScaleToTheLongestDayWithTheirProductivePart) {
         record(localInstant(2026, 3, 10, 12), 10),
         record(localInstant(2026, 3, 11, 8), 0),
     };
-    const auto bars = dailySeries(records, seeded(), 130);
+    const auto bars = dailySeries(records, seededMap(), 130);
     ASSERT_EQ(bars.size(), 4u);  // the 8th has no records and leaves no gap
     EXPECT_EQ(bars[0].key, "03/07");
     EXPECT_EQ(bars[0].label, "07");
@@ -117,7 +104,7 @@ TEST(DailySeries, BarsScaleToTheLongestDayWithTheirProductivePart) {
     EXPECT_DOUBLE_EQ(bars[2].productiveHeight, 2);
     EXPECT_DOUBLE_EQ(bars[3].height, 2);  // an empty day: no share, no division by zero
     EXPECT_DOUBLE_EQ(bars[3].productiveHeight, 0);
-    EXPECT_TRUE(dailySeries({}, seeded(), 130).empty());
+    EXPECT_TRUE(dailySeries({}, seededMap(), 130).empty());
 }
 
 }  // namespace

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include "Analytics/LocalDayCache.h"
 #include "LocalInstant.h"
 #include "ScopedTimeZone.h"
@@ -16,13 +14,6 @@ using test::ScopedTimeZone;
 
 LocalDay dayOf(Date instant) {
     return LocalDayCache().dayOf(instant);
-}
-
-TEST(TimeRange, RawValuesAreTheSelectorLabelsInOrder) {
-    std::string labels;
-    for (TimeRange range : kTimeRanges)
-        labels += std::string(rawValue(range)) + ";";
-    EXPECT_EQ(labels, "Day;Today;Week;Month;3 Months;");
 }
 
 TEST(TimeRange, PeriodsAndPomodoroDaysOfEveryRange) {

@@ -38,9 +38,9 @@ TEST(PopoverPlacement, StaysInsideTheAvailableArea) {
     // An icon at the right end of the panel: the right edge meets the screen's.
     EXPECT_EQ(placePopover(ScreenRect{1900, 4, 22, 22}, {}, kTopPanelScreen, 320, 420),
               (ScreenRect{1600, 30, 320, 420}));
-    // The pointer at the left edge, just under the middle line.
-    EXPECT_EQ(placePopover(std::nullopt, {0, 560}, kTopPanelScreen, 320, 420),
-              (ScreenRect{0, 136, 320, 420}));
+    // The pointer at the left edge, on the middle line: above it.
+    EXPECT_EQ(placePopover(std::nullopt, {0, 555}, kTopPanelScreen, 320, 420),
+              (ScreenRect{0, 131, 320, 420}));
     // A second screen to the left of the first, with negative coordinates.
     EXPECT_EQ(placePopover(std::nullopt, {-1270, 10}, ScreenRect{-1280, 0, 1280, 1024}, 320, 420),
               (ScreenRect{-1280, 14, 320, 420}));

@@ -16,78 +16,46 @@ ActivityRecord session(std::string app, std::optional<std::int64_t> category) {
     return record;
 }
 
-struct Case {
-    const char* name;
-    std::optional<ActivityRecord> session;
-    std::int64_t pending;
-    TimerTitleState timer;
-    std::vector<TitleSegment> expected;
-};
-
-void PrintTo(const Case& c, std::ostream* out) {
-    *out << c.name;
+// The timer's segment and the pending badge; the leading segment is a plain TitleSegment{text}.
+TitleSegment timerSegment(std::string text, TitleColor color = TitleColor::label) {
+    return {std::move(text), 11, TitleWeight::medium, color, true};
+}
+TitleSegment badge(std::string text) {
+    return {std::move(text), 11, TitleWeight::bold, TitleColor::orange, false};
 }
 
-class StatusTitleCases : public ::testing::TestWithParam<Case> {};
-
-TEST_P(StatusTitleCases, BuildsTheSegments) {
-    const Case& c = GetParam();
-    const StatusTitle title = buildStatusTitle(c.session, c.pending, catalogue(), c.timer);
-    EXPECT_EQ(title.segments, c.expected) << c.name << ": " << title.plainText();
+TEST(StatusTitle, SegmentsOfEveryIconLabelTimerAndPendingCase) {
+    struct Case {
+        const char* name;
+        std::optional<ActivityRecord> session;
+        std::int64_t pending;
+        TimerTitleState timer;
+        std::vector<TitleSegment> expected;
+    };
+    const TitleSegment starting{"\u23F1 Starting\u2026"};
+    const TimerTitleState off{};
+    // clang-format off
+    const Case cases[] = {
+        {"no session yet", std::nullopt, 0, off, {starting}},
+        {"known category", session("Code", 1), 0, off, {{"\U0001F4BB Coding"}}},
+        {"unknown category id: the stopwatch and the application", session("Obscure App", 999), 0, off, {{"\u23F1 Obscure App"}}},
+        {"no category at all", session("Obscure App", std::nullopt), 0, off, {{"\u23F1 Obscure App"}}},
+        // An away row recategorised by the user keeps "Away" but takes its new category's icon.
+        {"away span under another category", session("Away", 12), 0, off, {{"\U0001F3B5 Away"}}},
+        {"focus running", session("Code", 1), 0, {true, false, true, "24:59"},
+         {{"\U0001F4BB Coding"}, timerSegment("  \U0001F345 24:59")}},
+        {"break paused: the cup, the pause mark, the secondary colour", session("Code", 1), 0, {true, true, false, "04:10"},
+         {{"\U0001F4BB Coding"}, timerSegment("  \u2615\u23F8 04:10", TitleColor::secondaryLabel)}},
+        {"one pending with the timer idle", std::nullopt, 1, off, {starting, badge("  1 \u25CF")}},
+        {"everything at once", session("Away", 15), 12, {true, false, true, "100:00"},
+         {{"\u2615 Away"}, timerSegment("  \U0001F345 100:00"), badge("  12 \u25CF")}},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        const StatusTitle title = buildStatusTitle(c.session, c.pending, catalogue(), c.timer);
+        EXPECT_EQ(title.segments, c.expected) << c.name << ": " << title.plainText();
+    }
 }
-
-const TitleSegment kStarting{"\u23F1 Starting\u2026", 12, TitleWeight::medium, TitleColor::label, false};
-
-INSTANTIATE_TEST_SUITE_P(
-    EveryIconLabelTimerAndPendingCase, StatusTitleCases,
-    ::testing::Values(Case{"no session yet", std::nullopt, 0, {}, {kStarting}},
-                      Case{"known category",
-                           session("Code", 1),
-                           0,
-                           {},
-                           {{"\U0001F4BB Coding", 12, TitleWeight::medium, TitleColor::label, false}}},
-                      Case{"unknown category id falls back to the stopwatch and the application",
-                           session("Obscure App", 999),
-                           0,
-                           {},
-                           {{"\u23F1 Obscure App", 12, TitleWeight::medium, TitleColor::label, false}}},
-                      Case{"no category at all",
-                           session("Obscure App", std::nullopt),
-                           0,
-                           {},
-                           {{"\u23F1 Obscure App", 12, TitleWeight::medium, TitleColor::label, false}}},
-                      // An away row recategorised by the user keeps "Away" but takes its new category's icon.
-                      Case{"away span under another category",
-                           session("Away", 12),
-                           0,
-                           {},
-                           {{"\U0001F3B5 Away", 12, TitleWeight::medium, TitleColor::label, false}}},
-                      Case{"focus running",
-                           session("Code", 1),
-                           0,
-                           {true, false, true, "24:59"},
-                           {{"\U0001F4BB Coding", 12, TitleWeight::medium, TitleColor::label, false},
-                            {"  \U0001F345 24:59", 11, TitleWeight::medium, TitleColor::label, true}}},
-                      Case{"break paused shows the cup, the pause mark and the secondary colour",
-                           session("Code", 1),
-                           0,
-                           {true, true, false, "04:10"},
-                           {{"\U0001F4BB Coding", 12, TitleWeight::medium, TitleColor::label, false},
-                            {"  \u2615\u23F8 04:10", 11, TitleWeight::medium, TitleColor::secondaryLabel,
-                             true}}},
-                      Case{"pending count with the timer idle",
-                           std::nullopt,
-                           3,
-                           {},
-                           {kStarting, {"  3 \u25CF", 11, TitleWeight::bold, TitleColor::orange, false}}},
-                      Case{"everything at once",
-                           session("Away", 15),
-                           12,
-                           {true, false, true, "100:00"},
-                           {{"\u2615 Away", 12, TitleWeight::medium, TitleColor::label, false},
-                            {"  \U0001F345 100:00", 11, TitleWeight::medium, TitleColor::label, true},
-                            {"  12 \u25CF", 11, TitleWeight::bold, TitleColor::orange, false}}}),
-    [](const auto& info) { return "case" + std::to_string(info.index); });
 
 TEST(StatusTitle, ExposesWhatTheTrayIconDraws) {
     const StatusTitle title =

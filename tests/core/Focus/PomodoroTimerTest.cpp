@@ -56,7 +56,16 @@ private:
 };
 
 TEST_F(PomodoroTimerTest, EveryTransitionOfTheStateTable) {
-    enum class Event { start, pause, stop, skip, switchToLongBreak, tick, tickToZero };
+    using Event = void (*)(Rig&, PomodoroTimer&);
+    const Event start = [](Rig&, PomodoroTimer& t) { t.start(); };
+    const Event pause = [](Rig&, PomodoroTimer& t) { t.pause(); };
+    const Event stop = [](Rig&, PomodoroTimer& t) { t.stop(); };
+    const Event skip = [](Rig&, PomodoroTimer& t) { t.skip(); };
+    const Event switchToLongBreak = [](Rig&, PomodoroTimer& t) { t.switchMode(Mode::longBreak); };
+    const Event tick = [](Rig& r, PomodoroTimer&) { r.hub.advance(1); };
+    const Event tickToZero = [](Rig& r, PomodoroTimer& t) {
+        r.hub.advance(static_cast<double>(t.secondsLeft.get()));
+    };
     struct Row {
         const char* name;
         RunState from;
@@ -66,32 +75,32 @@ TEST_F(PomodoroTimerTest, EveryTransitionOfTheStateTable) {
         Mode mode;
         std::int64_t todayCount;  // 2 when the count was not reloaded, 7 when it was
         std::int64_t sessionInCycle;
+        std::int64_t secondsLeft;  // an idle timer shows its mode's whole duration
         Sounds sounds;
     };
     using enum RunState;
     using enum Mode;
-    using enum Event;
     // clang-format off
     const Row rows[] = {
-        {"start from idle",            idle,    focus,      start,             running, focus,      7, 0, {"Tink"}},
-        {"resume",                     paused,  focus,      start,             running, focus,      7, 0, {"Tink"}},
-        {"start while running",        running, focus,      start,             running, focus,      2, 0, {}},
-        {"pause while running",        running, focus,      pause,             paused,  focus,      2, 0, {"Pop"}},
-        {"pause while idle",           idle,    focus,      pause,             idle,    focus,      2, 0, {}},
-        {"pause while paused",         paused,  focus,      pause,             paused,  focus,      2, 0, {}},
+        {"start from idle",            idle,    focus,      start,             running, focus,      7, 0, 1500, {"Tink"}},
+        {"resume",                     paused,  focus,      start,             running, focus,      7, 0, 1490, {"Tink"}},
+        {"start while running",        running, focus,      start,             running, focus,      2, 0, 1490, {}},
+        {"pause while running",        running, focus,      pause,             paused,  focus,      2, 0, 1490, {"Pop"}},
+        {"pause while idle",           idle,    focus,      pause,             idle,    focus,      2, 0, 1500, {}},
+        {"pause while paused",         paused,  focus,      pause,             paused,  focus,      2, 0, 1490, {}},
         // stop and skip sound even from idle
-        {"stop while idle",            idle,    focus,      stop,              idle,    focus,      2, 0, {"Funk"}},
-        {"stop while running",         running, shortBreak, stop,              idle,    shortBreak, 2, 0, {"Funk"}},
-        {"stop while paused",          paused,  focus,      stop,              idle,    focus,      2, 0, {"Funk"}},
-        {"skip while idle",            idle,    focus,      skip,              idle,    shortBreak, 2, 0, {"Funk"}},
-        {"skip while running",         running, longBreak,  skip,              idle,    focus,      2, 0, {"Funk"}},
-        {"skip while paused",          paused,  shortBreak, skip,              idle,    focus,      2, 0, {"Funk"}},
-        {"switch while idle",          idle,    focus,      switchToLongBreak, idle,    longBreak,  2, 0, {}},
-        {"switch to the running mode", running, longBreak,  switchToLongBreak, idle,    longBreak,  2, 0, {}},
-        {"switch while paused",        paused,  focus,      switchToLongBreak, idle,    longBreak,  2, 0, {}},
-        {"tick with time left",        running, focus,      tick,              running, focus,      2, 0, {}},
-        {"focus runs out",             running, focus,      tickToZero,        idle,    shortBreak, 3, 1, {"Glass"}},
-        {"break runs out",             running, shortBreak, tickToZero,        idle,    focus,      2, 0, {"Ping"}},
+        {"stop while idle",            idle,    focus,      stop,              idle,    focus,      2, 0, 1500, {"Funk"}},
+        {"stop while running",         running, shortBreak, stop,              idle,    shortBreak, 2, 0,  300, {"Funk"}},
+        {"stop while paused",          paused,  focus,      stop,              idle,    focus,      2, 0, 1500, {"Funk"}},
+        {"skip while idle",            idle,    focus,      skip,              idle,    shortBreak, 2, 0,  300, {"Funk"}},
+        {"skip while running",         running, longBreak,  skip,              idle,    focus,      2, 0, 1500, {"Funk"}},
+        {"skip while paused",          paused,  shortBreak, skip,              idle,    focus,      2, 0, 1500, {"Funk"}},
+        {"switch while idle",          idle,    focus,      switchToLongBreak, idle,    longBreak,  2, 0,  900, {}},
+        {"switch to the running mode", running, longBreak,  switchToLongBreak, idle,    longBreak,  2, 0,  900, {}},
+        {"switch while paused",        paused,  focus,      switchToLongBreak, idle,    longBreak,  2, 0,  900, {}},
+        {"tick with time left",        running, focus,      tick,              running, focus,      2, 0, 1489, {}},
+        {"focus runs out",             running, focus,      tickToZero,        idle,    shortBreak, 3, 1,  300, {"Glass"}},
+        {"break runs out",             running, shortBreak, tickToZero,        idle,    focus,      2, 0, 1500, {"Ping"}},
     };
     // clang-format on
 
@@ -111,29 +120,7 @@ TEST_F(PomodoroTimerTest, EveryTransitionOfTheStateTable) {
         rig.sounds.played.clear();
         rig.defaults.setInteger("pomo_count", 7);  // filed meanwhile; only a start reloads it
 
-        switch (row.event) {
-            case start:
-                timer->start();
-                break;
-            case pause:
-                timer->pause();
-                break;
-            case stop:
-                timer->stop();
-                break;
-            case skip:
-                timer->skip();
-                break;
-            case switchToLongBreak:
-                timer->switchMode(longBreak);
-                break;
-            case tick:
-                rig.hub.advance(1);
-                break;
-            case tickToZero:
-                rig.hub.advance(static_cast<double>(timer->secondsLeft.get()));
-                break;
-        }
+        row.event(rig, *timer);
 
         EXPECT_EQ(timer->runState.get(), row.to);
         EXPECT_EQ(timer->mode.get(), row.mode);
@@ -141,21 +128,8 @@ TEST_F(PomodoroTimerTest, EveryTransitionOfTheStateTable) {
         EXPECT_EQ(timer->sessionInCycle.get(), row.sessionInCycle);
         EXPECT_EQ(rig.sounds.played, row.sounds);
         EXPECT_EQ(rig.hub.activeCount(), row.to == running ? 1U : 0U);
-        if (row.to == idle) {
-            EXPECT_EQ(timer->secondsLeft.get(), defaultMinutes(row.mode) * 60);
-        }
+        EXPECT_EQ(timer->secondsLeft.get(), row.secondsLeft);
     }
-}
-
-TEST_F(PomodoroTimerTest, StartWhileRunningKeepsTheSessionAndPlaysNoSound) {
-    auto timer = make();
-    timer->start();
-    hub.advance(10);
-    timer->start();
-    hub.advance(0.5);
-    EXPECT_EQ(timer->secondsLeft.get(), 1490);  // not restarted from the full duration
-    EXPECT_EQ(sounds.played, Sounds{"Tink"});
-    EXPECT_EQ(hub.activeCount(), 1U);
 }
 
 TEST_F(PomodoroTimerTest, PauseAndResumeKeepTheRemainderExactly) {

@@ -33,37 +33,32 @@ void tickTimes(ApprovalPopup& popup, int times) {
 }
 
 TEST(ApprovalPopup, GridAndMenuSplitTheCatalogue) {
-    const auto& all = Category::seeded();
-    // Six ids: six buttons in their order, the other fifteen in the menu in catalogue order.
-    EXPECT_EQ(idsOf(ApprovalPopup::topCategories(all, {4, 99, 1, 6, 10, 16})),
-              (std::vector<std::int64_t>{4, 1, 6, 10, 16}));
+    struct Case {
+        const char* name;
+        std::vector<std::int64_t> top, grid;
+        std::size_t menuSize;
+    };
+    const Case cases[] = {
+        {"six ids: six buttons, fifteen in the menu", {1, 4, 6, 10, 16, 17}, {1, 4, 6, 10, 16, 17}, 15},
+        {"fewer ids: a shorter grid", {3, 9}, {3, 9}, 19},
+        {"an id without a category is nowhere", {1, 4, 6, 10, 16, 404}, {1, 4, 6, 10, 16}, 16},
+        {"a seventh id is offered nowhere", {1, 2, 3, 4, 5, 6, 7}, {1, 2, 3, 4, 5, 6}, 14},
+        {"no ids", {}, {}, 21},
+    };
     Answers answers;
-    EXPECT_EQ(idsOf(card(answers).gridCategories()), (std::vector<std::int64_t>{1, 4, 6, 10, 16, 17}));
+    for (const Case& c : cases) {
+        EXPECT_EQ(idsOf(card(answers, c.top).gridCategories()), c.grid) << c.name;
+        EXPECT_EQ(card(answers, c.top).menuCategories().size(), c.menuSize) << c.name;
+    }
+    // Buttons in the order of the ids, the menu in catalogue order.
+    EXPECT_EQ(idsOf(ApprovalPopup::topCategories(Category::seeded(), {4, 99, 1})),
+              (std::vector<std::int64_t>{4, 1}));
     const auto menu = card(answers).menuCategories();
-    EXPECT_EQ(menu.size(), 15u);
     EXPECT_EQ(menu.front().id, 2);
     EXPECT_EQ(menu.back().id, 21);
-    // Fewer ids: a shorter grid, and everything else in the menu.
-    EXPECT_EQ(idsOf(card(answers, {3, 9}).gridCategories()), (std::vector<std::int64_t>{3, 9}));
-    EXPECT_EQ(card(answers, {3, 9}).menuCategories().size(), 19u);
-    // An id without a category leaves the grid one short, and is in the menu as nothing.
-    EXPECT_EQ(idsOf(card(answers, {1, 4, 6, 10, 16, 404}).gridCategories()),
-              (std::vector<std::int64_t>{1, 4, 6, 10, 16}));
-    EXPECT_EQ(card(answers, {1, 4, 6, 10, 16, 404}).menuCategories().size(), 16u);
-    // More than six: only six buttons; the seventh is offered nowhere, as it counts as a top id.
-    EXPECT_EQ(card(answers, {1, 2, 3, 4, 5, 6, 7}).gridCategories().size(), 6u);
-    EXPECT_EQ(card(answers, {1, 2, 3, 4, 5, 6, 7}).menuCategories().size(), 14u);
-    // No ids, no categories.
-    EXPECT_TRUE(card(answers, {}).gridCategories().empty());
     EXPECT_TRUE(ApprovalPopup::otherCategories({}, {1}).empty());
     EXPECT_TRUE(answers.given.empty());
-}
-
-TEST(ApprovalPopup, MenuEntryReadsIconBlankName) {
-    Category category;
-    category.icon = "\U0001F4BB";
-    category.name = "Coding";
-    EXPECT_EQ(ApprovalPopup::menuTitle(category), "\U0001F4BB Coding");
+    EXPECT_EQ(ApprovalPopup::menuTitle(Category::seeded()[0]), "\U0001F4BB Coding");
 }
 
 TEST(ApprovalPopup, UntouchedCardAnswersNoneAfter45TicksOnce) {

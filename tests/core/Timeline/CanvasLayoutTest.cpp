@@ -3,12 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <ctime>
 #include <limits>
 #include <string>
 #include <vector>
 
 #include "ActivityBuilder.h"
+#include "LocalInstant.h"
 #include "ScopedTimeZone.h"
 
 namespace larkspan {
@@ -123,13 +123,8 @@ TEST(CanvasLayout, CanvasHeightFollowsTheLastFrameNotTheLowest) {
 
 TEST(CanvasLayout, DayWithAClockChangeIsCutAfter86400ElapsedSeconds) {
     test::ScopedTimeZone zone("Europe/Berlin");
-    std::tm midnight{};
-    midnight.tm_year = 2026 - 1900;
-    midnight.tm_mon = 9;
-    midnight.tm_mday = 25;  // clocks go back at 03:00: the day has 25 hours
-    midnight.tm_isdst = -1;
-    const Date dayStart = static_cast<Date>(std::mktime(&midnight));
-    const Date lateEvening = dayStart + 23.5 * 3600;  // 22:30 on the wall clock
+    const Date dayStart = test::localInstant(2026, 10, 25);  // clocks go back at 03:00: 25 hours
+    const Date lateEvening = dayStart + 23.5 * 3600;         // 22:30 on the wall clock
     const std::vector<PositionedChapter> positioned = layoutChapters(
         {work(lateEvening, lateEvening + 3600), work(lateEvening + 3600, lateEvening + 5400)}, dayStart);
     expectFrames(positioned, {{8, 2350, 290, 50}});
@@ -146,14 +141,7 @@ TEST(CanvasLayout, HourLabelsAnchorsAndTheNowLine) {
     EXPECT_NEAR(nowLineY(kDayStart, at(0, 20)), 33.33, 0.005);
 
     test::ScopedTimeZone zone("America/New_York");
-    std::tm local{};
-    local.tm_year = 2026 - 1900;
-    local.tm_mon = 10;
-    local.tm_mday = 23;
-    local.tm_hour = 0;
-    local.tm_min = 20;
-    local.tm_isdst = -1;
-    const Date twentyPastMidnight = static_cast<Date>(std::mktime(&local));
+    const Date twentyPastMidnight = test::localInstant(2026, 11, 23, 0, 20);
     EXPECT_EQ(scrollAnchorHour(twentyPastMidnight), 0);  // not hour -1
     EXPECT_EQ(scrollAnchorHour(twentyPastMidnight + 9.5 * 3600), 8);
     EXPECT_EQ(scrollAnchorHour(std::numeric_limits<double>::quiet_NaN()), 0);

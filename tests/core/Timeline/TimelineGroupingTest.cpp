@@ -21,18 +21,13 @@ ActivityBuilder page(std::int64_t id, Date start, std::int64_t seconds, std::str
     return b;
 }
 
-std::vector<std::size_t> blockSizes(const std::vector<TimelineBlock>& blocks) {
-    std::vector<std::size_t> sizes;
-    for (const TimelineBlock& b : blocks)
-        sizes.push_back(b.activities.size());
-    return sizes;
-}
-
-std::vector<std::size_t> chapterSizes(const std::vector<TimelineChapter>& chapters) {
-    std::vector<std::size_t> sizes;
-    for (const TimelineChapter& c : chapters)
-        sizes.push_back(c.activities.size());
-    return sizes;
+// The number of activities in each block or chapter.
+template <typename Group>
+std::vector<std::size_t> groupSizes(const std::vector<Group>& groups) {
+    std::vector<std::size_t> counts;
+    for (const Group& g : groups)
+        counts.push_back(g.activities.size());
+    return counts;
 }
 
 TEST(TimelineBlocks, StitchingGapIsMeasuredFromTheVisitAppendedLast) {
@@ -41,7 +36,7 @@ TEST(TimelineBlocks, StitchingGapIsMeasuredFromTheVisitAppendedLast) {
          {std::pair{300.0, std::vector<std::size_t>{2}}, std::pair{301.0, std::vector<std::size_t>{1, 1}}}) {
         const std::vector<ActivityRecord> day = {page(1, kNine, 60, "a.org"),
                                                  page(2, kNine + 60 + gap, 60, "a.org")};
-        EXPECT_EQ(blockSizes(computeBlocks(day, 0, true)), sizes) << gap;
+        EXPECT_EQ(groupSizes(computeBlocks(day, 0, true)), sizes) << gap;
     }
 
     // A long visit, an overlapping short one inside it, then one 301 s after the short one ends: the
@@ -49,7 +44,7 @@ TEST(TimelineBlocks, StitchingGapIsMeasuredFromTheVisitAppendedLast) {
     const std::vector<ActivityRecord> day = {
         page(1, kNine, 1000, "a.org"), page(2, kNine + 100, 100, "a.org"), page(3, kNine + 501, 60, "a.org")};
     const std::vector<TimelineBlock> blocks = computeBlocks(day, 0, true);
-    ASSERT_EQ(blockSizes(blocks), (std::vector<std::size_t>{2, 1}));
+    ASSERT_EQ(groupSizes(blocks), (std::vector<std::size_t>{2, 1}));
     EXPECT_EQ(blocks[0].endTime, kNine + 200);     // the end of the last visit, not the latest end
     EXPECT_EQ(blocks[0].durationSeconds(), 1100);  // overlaps count in full
     EXPECT_TRUE(blocks[0].isMerged());
@@ -59,12 +54,12 @@ TEST(TimelineBlocks, StitchingGapIsMeasuredFromTheVisitAppendedLast) {
 TEST(TimelineBlocks, AnyOtherResourceBetweenTwoVisitsKeepsThemApart) {
     const std::vector<ActivityRecord> day = {page(1, kNine, 60, "a.org"), page(2, kNine + 60, 1, "b.org"),
                                              page(3, kNine + 61, 60, "a.org")};
-    EXPECT_EQ(blockSizes(computeBlocks(day, 0, true)), (std::vector<std::size_t>{1, 1, 1}));
+    EXPECT_EQ(groupSizes(computeBlocks(day, 0, true)), (std::vector<std::size_t>{1, 1, 1}));
 
     // The duration filter removes the short visit first, and its time becomes a gap that stitches.
-    EXPECT_EQ(blockSizes(computeBlocks(day, 60, true)), (std::vector<std::size_t>{2}));
+    EXPECT_EQ(groupSizes(computeBlocks(day, 60, true)), (std::vector<std::size_t>{2}));
     // Without the switch nothing is merged at all.
-    EXPECT_EQ(blockSizes(computeBlocks(day, 60, false)), (std::vector<std::size_t>{1, 1}));
+    EXPECT_EQ(groupSizes(computeBlocks(day, 60, false)), (std::vector<std::size_t>{1, 1}));
 }
 
 TEST(TimelineBlocks, DurationFilterKeepsItsBound) {
@@ -118,22 +113,15 @@ TEST(TimelineResources, KeysFollowSiteEditorAndTitleRules) {
 }
 
 TEST(TimelineResources, GroupedByAppIsACaseSensitivePrefixTest) {
+    // The first and last entries of the table, and near misses.
     const std::pair<std::optional<std::string>, bool> cases[] = {
         {std::nullopt, false},
+        {"", false},
         {"com.cursor.app", true},
         {"com.cursor", false},  // the prefix includes the dot
         {"com.microsoft.VSCodeInsiders", true},
         {"com.microsoft.vscode", false},
-        {"com.apple.dt.Xcode", true},
-        {"com.jetbrains.intellij", true},
-        {"io.zed.zed", true},
-        {"com.sublimetext.4", true},
-        {"com.panic.Nova", true},
         {"dev.warp.Warp-Stable", false},
-        {"dev.warp.Warp-1", true},
-        {"com.apple.Terminal", true},
-        {"com.googlecode.iterm2", true},
-        {"com.mitchellh.ghostty", true},
         {"net.kovidgoyal.kitty", true},
         {"org.gnome.Terminal", false},
         {"org.larkspan.role.terminal", true},
@@ -145,17 +133,10 @@ TEST(TimelineResources, GroupedByAppIsACaseSensitivePrefixTest) {
 }
 
 TEST(TimelineResources, TitlesAreComparedByTheirFirstSixtyUserPerceivedCharacters) {
-    // Nine characters of many bytes and code points each, then plain letters up to 59.
-    const std::string lead =
-        "\U0001F44D\U0001F3FD"                                        // thumbs up, skin tone
-        "\U0001F1E9\U0001F1EA"                                        // flag
-        "\U0001F468\u200D\U0001F469\u200D\U0001F467\u200D\U0001F466"  // family
-        "e\u0301"                                                     // e and a combining accent
-        "\u2764\uFE0F"                                                // heart with variation selector
-        "\u05E9\u05C1"                                                // shin with its dot
-        "\xFF"                                                        // a stray byte
-        "a\r\n";                                                      // a letter and CR LF (two)
-    const std::string upTo59 = lead + std::string(50, 'x');
+    // 59 characters of two code points each: counting bytes or code points would cut far too early.
+    std::string upTo59;
+    for (int i = 0; i < 59; ++i)
+        upTo59 += "e\u0301";
     const auto editor = [](std::int64_t id, const std::string& title) {
         return ActivityRecord(
             ActivityBuilder(id, kNine + id * 10, 5).app("Gedit", "org.gnome.gedit").title(title));
@@ -163,10 +144,8 @@ TEST(TimelineResources, TitlesAreComparedByTheirFirstSixtyUserPerceivedCharacter
 
     // Differing only in the 61st character: one resource.
     EXPECT_EQ(resourceKey(editor(1, upTo59 + "AB")), resourceKey(editor(2, upTo59 + "AC")));
-    EXPECT_EQ(computeBlocks({editor(1, upTo59 + "AB"), editor(2, upTo59 + "AC")}, 0, true).size(), 1u);
-    // Differing in the 60th: two. Counting bytes or code points would call these equal.
+    // Differing in the 60th: two.
     EXPECT_NE(resourceKey(editor(1, upTo59 + "A")), resourceKey(editor(2, upTo59 + "B")));
-    EXPECT_EQ(computeBlocks({editor(1, upTo59 + "A"), editor(2, upTo59 + "B")}, 0, true).size(), 2u);
     // Any other application: different titles are different resources.
     EXPECT_EQ(computeBlocks({editor(1, "one"), editor(2, "two")}, 0, true).size(), 2u);
 }
@@ -189,7 +168,7 @@ TEST(TimelineChapters, AwaySpansSplitOnlyFromTheirThresholdInEachRegime) {
                                                  ActivityBuilder::away(2, kNine + 600, c.awaySeconds),
                                                  ActivityBuilder(3, kNine + 600 + c.awaySeconds, 60)};
         const std::vector<TimelineChapter> chapters = computeChapters(day, 0, c.grouped);
-        EXPECT_EQ(chapterSizes(chapters), c.sizes) << c.grouped << " " << c.awaySeconds;
+        EXPECT_EQ(groupSizes(chapters), c.sizes) << c.grouped << " " << c.awaySeconds;
         ASSERT_EQ(chapters.size(), c.sizes.size());
         for (std::size_t i = 0; i < chapters.size(); ++i) {
             EXPECT_EQ(isIdleChapter(chapters[i]), chapters.size() == 3 && i == 1) << i;
@@ -211,14 +190,14 @@ TEST(TimelineChapters, PausesCloseAboveTheGapAndDroppedAwayTimeCountsTowardIt) {
     const std::vector<ActivityRecord> withAway = {ActivityBuilder(1, kNine, 60),
                                                   ActivityBuilder::away(2, kNine + 60, 599),
                                                   ActivityBuilder(3, kNine + 60 + 1201, 60)};
-    EXPECT_EQ(chapterSizes(computeChapters(withAway, 0, true)), (std::vector<std::size_t>{1, 1}));
+    EXPECT_EQ(groupSizes(computeChapters(withAway, 0, true)), (std::vector<std::size_t>{1, 1}));
 }
 
 TEST(TimelineChapters, AwaySpanAtTheStartOfTheDayMakesNoEmptyChapter) {
     const std::vector<ActivityRecord> day = {ActivityBuilder::away(1, kNine, 600),
                                              ActivityBuilder(2, kNine + 600, 60)};
     const std::vector<TimelineChapter> chapters = computeChapters(day, 0, true);
-    ASSERT_EQ(chapterSizes(chapters), (std::vector<std::size_t>{1, 1}));
+    ASSERT_EQ(groupSizes(chapters), (std::vector<std::size_t>{1, 1}));
     EXPECT_TRUE(isIdleChapter(chapters[0]));
     EXPECT_EQ(chapters[0].id(), 1);
     EXPECT_EQ(chapters[0].wallSeconds(), 600);
@@ -247,8 +226,7 @@ TEST(TimelineChapters, DerivedValuesAndTheTieRule) {
 
 TEST(TimelineLabels, FormatDurationAtEachBoundary) {
     const std::pair<std::int64_t, const char*> cases[] = {
-        {0, "0s"},      {45, "45s"},       {59, "59s"},     {60, "1m 0s"},   {187, "3m 7s"},
-        {300, "5m 0s"}, {3599, "59m 59s"}, {3600, "1h 0m"}, {7500, "2h 5m"}, {90061, "25h 1m"},
+        {0, "0s"}, {59, "59s"}, {60, "1m 0s"}, {3599, "59m 59s"}, {3600, "1h 0m"}, {90061, "25h 1m"},
     };
     for (const auto& [seconds, text] : cases)
         EXPECT_EQ(formatDuration(seconds), text) << seconds;

@@ -5,35 +5,16 @@
 #include <thread>
 #include <vector>
 
-#include "FakeScriptRunner.h"
-#include "FakeWorkspace.h"
-#include "ManualClock.h"
-#include "ManualMainQueue.h"
-#include "ManualTimerHub.h"
-#include "Platform/SerialQueue.h"
+#include "TrackerRig.h"
 
 namespace larkspan {
 namespace {
 
-using namespace test;
-
 const RunningApplication kTerminal{"org.gnome.Terminal", "Terminal", 10};
 const RunningApplication kEditor{"org.gnome.TextEditor", "Text Editor", 11};
 const RunningApplication kChrome{"com.google.Chrome", "Google Chrome", 20};
-const RunningApplication kCanary{"com.google.Chrome.canary", "Chrome Canary", 21};
-const RunningApplication kOpera{"com.operasoftware.Opera", "Opera", 22};
 
-struct ActivityMonitorTest : ::testing::Test {
-    FakeWorkspace workspace;
-    FakeScriptRunner scripts;
-    ManualClock clock;
-    ManualMainQueue mainQueue;
-    ManualTimerHub timers{clock};
-    NotificationCenter notifications;
-    SerialQueue bg{kMonitorQueueLabel};
-    std::shared_ptr<ActivityMonitor> monitor =
-        std::make_shared<ActivityMonitor>(workspace, scripts, clock, mainQueue, timers, notifications, bg);
-
+struct ActivityMonitorTest : ::testing::Test, test::MonitorRig {
     std::vector<std::optional<RawActivity>> published;
     std::vector<double> returns;
     std::vector<std::thread::id> publishingThreads;
@@ -49,18 +30,6 @@ struct ActivityMonitorTest : ::testing::Test {
         });
 
     ActivityMonitorTest() { published.clear(); }
-
-    // Lets queued captures finish, then runs what they posted to the main thread.
-    void settle() {
-        bg.sync([] {});
-        mainQueue.drain();
-    }
-    // One capture of the desktop as it is now.
-    std::optional<RawActivity> capture() {
-        monitor->poll();
-        settle();
-        return monitor->currentActivity.get();
-    }
 };
 
 TEST_F(ActivityMonitorTest, StartPollsAtOnceEveryFourSecondsAndOnActivationUntilStopped) {
@@ -69,19 +38,16 @@ TEST_F(ActivityMonitorTest, StartPollsAtOnceEveryFourSecondsAndOnActivationUntil
     monitor->start();
     settle();
     ASSERT_EQ(published.size(), 1u);
-    EXPECT_EQ(published[0]->appName, "Terminal");
-    EXPECT_EQ(published[0]->bundleID, "org.gnome.Terminal");
+    EXPECT_EQ(*published[0],
+              (RawActivity{"Terminal", "org.gnome.Terminal", "~/src", std::nullopt, std::nullopt}));
     EXPECT_EQ(published[0]->windowTitle, "~/src");
 
-    timers.advance(3.9);
-    settle();
+    run(3.9);
     EXPECT_EQ(published.size(), 1u);
-    timers.advance(0.1);
-    settle();
+    run(0.1);
     EXPECT_EQ(published.size(), 2u);  // an unchanged sample is assigned again
 
-    workspace.activate(kEditor);
-    settle();
+    bringToFront(kEditor);
     ASSERT_EQ(published.size(), 3u);
     EXPECT_EQ(published[2]->appName, "Text Editor");
     EXPECT_EQ(published[2]->windowTitle, std::nullopt);  // unreadable title stays absent
@@ -89,92 +55,94 @@ TEST_F(ActivityMonitorTest, StartPollsAtOnceEveryFourSecondsAndOnActivationUntil
     monitor->stop();
     EXPECT_FALSE(workspace.hasActivationHandler());
     EXPECT_EQ(timers.activeCount(), 0u);
-    timers.advance(20);
-    settle();
+    run(20);
     EXPECT_EQ(published.size(), 3u);
-    // Every assignment happened on this, the main, thread.
     for (auto id : publishingThreads)
-        EXPECT_EQ(id, std::this_thread::get_id());
+        EXPECT_EQ(id, std::this_thread::get_id());  // every assignment on the main thread
 }
 
 TEST_F(ActivityMonitorTest, IdlenessStartsStrictlyAboveTheThresholdOfTheFrontApplication) {
-    workspace.setFrontmost(kTerminal);
-    workspace.setIdleSeconds(120.0);
-    EXPECT_FALSE(capture()->isIdle);
-    workspace.setIdleSeconds(120.001);
-    const auto away = capture();
-    EXPECT_TRUE(away->isIdle);
-    EXPECT_EQ(away->appName, "Away");
-    EXPECT_EQ(away->windowTitle, "Away / Break");
-    EXPECT_EQ(away->bundleID, std::nullopt);
-    EXPECT_EQ(away->idleSeconds, 120.001);
-
-    // The same silence in a listed browser is no absence until 300 s; Opera is a browser but unlisted.
+    struct Case {
+        std::optional<RunningApplication> front;
+        double idleSeconds;
+        bool idle;
+    };
+    const RunningApplication canary{"com.google.Chrome.canary", "Chrome Canary", 21};
+    const RunningApplication opera{"com.operasoftware.Opera", "Opera", 22};
+    const Case cases[] = {
+        {kTerminal, 120.0, false},
+        {kTerminal, 120.001, true},
+        // A listed browser, by prefix, waits 300 s; Opera is a browser but unlisted.
+        {canary, 300.0, false},
+        {canary, 300.5, true},
+        {opera, 200, true},
+        {std::nullopt, 200, true},  // nothing in front: the default threshold
+    };
     scripts.answerAlways("https://example.com/|||Example");
-    workspace.setFrontmost(kCanary);
-    EXPECT_FALSE(capture()->isIdle);
-    workspace.setIdleSeconds(300.5);
-    EXPECT_TRUE(capture()->isIdle);
-    workspace.setIdleSeconds(200);
-    workspace.setFrontmost(kOpera);
-    EXPECT_TRUE(capture()->isIdle);
-    // No front application at all: the default threshold decides.
-    workspace.setFrontmost(std::nullopt);
-    EXPECT_TRUE(capture()->isIdle);
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.front ? c.front->localizedName.value() : "none");
+        workspace.setFrontmost(c.front);
+        workspace.setIdleSeconds(c.idleSeconds);
+        EXPECT_EQ(capture()->isIdle, c.idle) << c.idleSeconds;
+    }
+    // The away sample names no application, whichever is in front.
+    workspace.setFrontmost(kTerminal);
+    workspace.setIdleSeconds(150);
+    const auto away = capture();
+    EXPECT_EQ(away, (RawActivity{"Away", std::nullopt, "Away / Break", std::nullopt, std::nullopt, true}));
+    EXPECT_EQ(away->windowTitle, "Away / Break");
+    EXPECT_EQ(away->idleSeconds, 150);
 }
 
 TEST_F(ActivityMonitorTest, TheFirstActiveCaptureAfterIdlenessReportsTheLastIdleSeconds) {
     workspace.setFrontmost(kTerminal);
-    capture();
-    workspace.setIdleSeconds(121);
-    capture();
-    workspace.setIdleSeconds(7'200);
-    capture();
+    for (double idle : {0.0, 121.0, 7'200.0}) {
+        workspace.setIdleSeconds(idle);
+        capture();
+    }
     EXPECT_TRUE(returns.empty());
 
     workspace.setIdleSeconds(0.5);
     EXPECT_FALSE(capture()->isIdle);
-    EXPECT_EQ(returns, std::vector<double>{7'200});
     capture();
-    EXPECT_EQ(returns.size(), 1u);  // only the first
+    EXPECT_EQ(returns, std::vector<double>{7'200});  // only the first
 
-    // Idle, then a capture with nothing in front, then active: the return is lost.
+    // Idle, then a capture with nothing in front (which publishes nothing), then active: the return is lost.
     workspace.setIdleSeconds(500);
     capture();
     workspace.setIdleSeconds(1);
     workspace.setFrontmost(std::nullopt);
     const auto before = published.size();
     capture();
-    EXPECT_EQ(published.size(), before);  // nothing is published without a front application
+    EXPECT_EQ(published.size(), before);
     workspace.setFrontmost(kTerminal);
     capture();
     EXPECT_EQ(returns.size(), 1u);
 }
 
 TEST_F(ActivityMonitorTest, ABrowserSampleCarriesItsTab) {
+    struct Case {
+        std::optional<std::string> answer;
+        std::optional<std::string> url, domain;
+        std::string title;
+    };
+    const Case cases[] = {
+        {"https://www.rust-lang.org/learn|||Learn Rust", "https://www.rust-lang.org/learn", "rust-lang.org",
+         "Learn Rust"},
+        {"https://example.org/|||", "https://example.org/", "example.org",
+         "Window title"},                                            // empty tab title
+        {std::nullopt, std::nullopt, std::nullopt, "Window title"},  // failed read
+    };
     workspace.setFrontmost(kChrome);
     workspace.setTitle(kChrome.pid, "Window title");
-    scripts.answerAlways("https://www.rust-lang.org/learn|||Learn Rust");
-    auto sample = capture();
-    EXPECT_EQ(sample->url, "https://www.rust-lang.org/learn");
-    EXPECT_EQ(sample->urlDomain, "rust-lang.org");
-    EXPECT_EQ(sample->windowTitle, "Learn Rust");
-
-    // An empty tab title keeps the window's title.
-    clock.advance(5);
-    scripts.answerAlways("https://example.org/|||");
-    sample = capture();
-    EXPECT_EQ(sample->urlDomain, "example.org");
-    EXPECT_EQ(sample->windowTitle, "Window title");
-
-    // A failed tab read: a browser sample without an address.
-    clock.advance(5);
-    scripts.answerAlways(std::nullopt);
-    sample = capture();
-    EXPECT_EQ(sample->url, std::nullopt);
-    EXPECT_EQ(sample->urlDomain, std::nullopt);
-    EXPECT_EQ(sample->windowTitle, "Window title");
-
+    for (const Case& c : cases) {
+        clock.advance(5);
+        scripts.answerAlways(c.answer);
+        const auto sample = capture();
+        EXPECT_EQ(sample->url, c.url);
+        EXPECT_EQ(sample->urlDomain, c.domain);
+        EXPECT_EQ(sample->windowTitle, c.title);
+    }
     // A non-browser never runs a script.
     const int runs = scripts.runCount();
     workspace.setFrontmost(kTerminal);

@@ -3,46 +3,20 @@
 // The test thread plays the main thread; the monitor and the store run their real serial queues.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <thread>
 
-#include "FakeScriptRunner.h"
-#include "FakeWorkspace.h"
-#include "ManualClock.h"
-#include "ManualMainQueue.h"
-#include "ManualTimerHub.h"
-#include "Platform/SerialQueue.h"
 #include "SqliteFile.h"
-#include "TempDir.h"
-#include "Tracking/ActivityMonitor.h"
-#include "Tracking/SessionManager.h"
+#include "TrackerRig.h"
 
 namespace larkspan {
 namespace {
-
-using namespace test;
 
 const RunningApplication kKitty{"net.kovidgoyal.kitty", "kitty", 10};  // Terminal, sure
 const RunningApplication kChrome{"com.google.Chrome", "Google Chrome", 20};
 const RunningApplication kZqx{"org.example.Zqx", "Zqx", 30};  // unknown: asks
 
-struct TrackingIntegrationTest : ::testing::Test {
-    TempDir dir;
-    ManualClock clock;
-    const Date t0 = clock.now();
-    ManualMainQueue mainQueue;
-    ManualTimerHub timers{clock};
-    FakeWorkspace workspace;
-    FakeScriptRunner scripts;
-    NotificationCenter notifications;
-    Database db{dir / "tracker.db"};
-    SqliteFile file{dir / "tracker.db"};
-    CategoryEngine engine;
-    SerialQueue bg{kMonitorQueueLabel};
-    std::shared_ptr<SessionManager> manager = SessionManager::create(db, engine, clock, mainQueue, timers);
-    std::shared_ptr<ActivityMonitor> monitor =
-        std::make_shared<ActivityMonitor>(workspace, scripts, clock, mainQueue, timers, notifications, bg);
-
+struct TrackingIntegrationTest : ::testing::Test, test::TrackerRig {
+    test::SqliteFile file{dir / "tracker.db"};
     const std::thread::id mainThread = std::this_thread::get_id();
     int samples = 0;
     int offMainAssignments = 0;
@@ -72,23 +46,6 @@ struct TrackingIntegrationTest : ::testing::Test {
         if (std::this_thread::get_id() != mainThread)
             ++offMainAssignments;
     }
-    // Lets the captures queued so far finish, and runs what they posted, down to the store.
-    void settle() {
-        bg.sync([] {});
-        mainQueue.drain();
-    }
-    // Lets `seconds` pass in steps of at most one second, settling after each.
-    void run(double seconds) {
-        for (double left = seconds; left > 1e-9; left -= 1) {
-            timers.advance(std::min(left, 1.0));
-            settle();
-        }
-    }
-    void bringToFront(const RunningApplication& app) {
-        workspace.activate(app);
-        settle();
-    }
-    std::vector<ActivityRecord> rows() { return db.fetchActivities(0, 4e9); }
 };
 
 TEST_F(TrackingIntegrationTest, AHundredEqualSamplesMakeOneRowWhoseEndMovesOnlyWithHeartbeats) {
@@ -197,32 +154,6 @@ TEST_F(TrackingIntegrationTest, TextsOfAnySizeAndEncodingReachTheStoreUnchanged)
     EXPECT_EQ(file.text("SELECT window_title FROM activities WHERE app_name='kitty'"), title);
     EXPECT_EQ(file.text("SELECT url FROM activities WHERE app_name='Google Chrome'"), url);
     EXPECT_EQ(file.text("SELECT window_title FROM activities WHERE app_name='Google Chrome'"), title);
-}
-
-TEST_F(TrackingIntegrationTest, HangingBrowserScriptHoldsUpOnlyTheMonitorQueue) {
-    workspace.setFrontmost(kKitty);
-    monitor->start();
-    run(8);
-    scripts.hold();
-    workspace.activate(kChrome);
-    scripts.waitUntilBlocked();
-
-    // The main thread goes on: timers fire, the heartbeat reaches the store, answers are handled.
-    const int before = samples;
-    timers.advance(40);
-    mainQueue.drain();
-    EXPECT_EQ(rows()[0].endTime, t0 + 30);
-    manager->resolveApproval(rows()[0].id, category_id::coding);
-    EXPECT_EQ(db.fetchActivity(rows()[0].id)->categoryID, category_id::coding);
-    EXPECT_EQ(samples, before);  // while captures wait their turn
-
-    // Released, the queued captures run in order and the browser session opens.
-    scripts.release();
-    settle();
-    EXPECT_EQ(samples, before + 1 + 10);
-    ASSERT_EQ(rows().size(), 2u);
-    EXPECT_EQ(rows()[1].urlDomain, "docs.example.org");
-    EXPECT_EQ(rows()[1].startTime, t0 + 48);
 }
 
 }  // namespace

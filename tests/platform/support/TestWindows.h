@@ -1,9 +1,11 @@
-// Top-level windows made by the test process itself, with chosen WM_CLASS, title and hints, so
-// that one process can own several windows (xterm cannot) and dialogs can name a main window.
+// Top-level windows made by the test process itself over a plain xcb connection, with chosen
+// WM_CLASS, title and hints, so that one process can own several windows (xterm cannot) and dialogs
+// can name a main window.
 #pragma once
 
+#include <xcb/xcb.h>
+
 #include <cstdint>
-#include <memory>
 #include <string>
 
 namespace larkspan::test {
@@ -19,19 +21,27 @@ public:
         bool utility = false;            // _NET_WM_WINDOW_TYPE_UTILITY, as Qt gives a tool window
     };
 
-    // Connects to `display`; `connected()` tells whether that worked.
     explicit TestWindows(const std::string& display);
     ~TestWindows();
-    bool connected() const;
+    TestWindows(const TestWindows&) = delete;
+    TestWindows& operator=(const TestWindows&) = delete;
+
+    bool connected() const { return screen_ != nullptr; }
+    xcb_connection_t* connection() const { return connection_; }
+    xcb_atom_t atom(const std::string& name);
 
     // Creates and maps a window with this process's pid in _NET_WM_PID. Returns its id, 0 on failure.
     std::uint32_t create(const Properties& properties);
+    std::uint32_t create() { return create(Properties{}); }
     // Asks again for the window to be shown; a window manager still starting may drop the first request.
     void map(std::uint32_t window);
 
 private:
-    struct Connection;
-    std::unique_ptr<Connection> connection_;
+    void set(xcb_window_t window, xcb_atom_t property, xcb_atom_t type, std::uint8_t format,
+             std::uint32_t count, const void* data);
+
+    xcb_connection_t* connection_;
+    xcb_screen_t* screen_ = nullptr;
 };
 
 }  // namespace larkspan::test

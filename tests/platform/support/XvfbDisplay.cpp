@@ -1,229 +1,147 @@
-// Xvfb management. Display numbers from :90 upward are tried in turn; a number whose socket or
-// lock file exists belongs to someone else, and a server that exits at once lost a race for it.
+// Xvfb management. Xvfb picks a free display number itself and writes it to -displayfd once it
+// accepts connections, so tests running side by side never race for a number.
 #include "XvfbDisplay.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <signal.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cstdio>
-#include <cstdlib>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <thread>
 
-extern char** environ;
-
 namespace larkspan::test {
 
-namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 
 namespace {
 
-constexpr int kFirstDisplay = 90;
-constexpr int kLastDisplay = 189;
-
-bool onPath(const std::string& program) {
-    const char* path = std::getenv("PATH");
-    std::stringstream dirs(path ? path : "/usr/bin:/bin");
-    std::string dir;
-    while (std::getline(dirs, dir, ':')) {
-        if (!dir.empty() && access((fs::path(dir) / program).c_str(), X_OK) == 0)
-            return true;
-    }
-    return false;
-}
-
-bool exited(pid_t pid) {
-    int status = 0;
-    return waitpid(pid, &status, WNOHANG) == pid;
-}
-
-// Starts `argv` with `display` set; stdout goes to `stdoutFd` when not -1, else to /dev/null.
-pid_t spawnWith(const std::vector<std::string>& argv, const std::string& display, int stdoutFd = -1) {
-    std::vector<std::string> env;
-    for (char** e = environ; *e; ++e) {
-        const std::string entry = *e;
-        if (entry.rfind("DISPLAY=", 0) == 0 || entry.rfind("LC_ALL=", 0) == 0 ||
-            entry.rfind("WAYLAND_DISPLAY=", 0) == 0) {
-            continue;
-        }
-        env.push_back(entry);
-    }
-    if (!display.empty())
-        env.push_back("DISPLAY=" + display);
-    env.push_back("LC_ALL=C.UTF-8");
-    std::vector<char*> envp;
-    for (auto& entry : env)
-        envp.push_back(entry.data());
-    envp.push_back(nullptr);
-    std::vector<std::string> args = argv;
-    std::vector<char*> argp;
-    for (auto& arg : args)
-        argp.push_back(arg.data());
-    argp.push_back(nullptr);
-
-    // fork rather than posix_spawn: the child asks for SIGTERM when the test process dies, so a
-    // crashed test leaves no server (nor its socket and lock) behind. Only async-signal-safe calls
-    // between fork and exec.
+// Starts `command` on `display` with its output to `out` (-1: nowhere). fork rather than posix_spawn:
+// the child asks for SIGTERM when the test process dies, so a crashed test leaves no server behind.
+pid_t launch(const std::vector<std::string>& command, const std::string& display, int out = -1) {
+    std::vector<std::string> argv = {"env", "-u", "WAYLAND_DISPLAY", "DISPLAY=" + display, "LC_ALL=C.UTF-8"};
+    argv.insert(argv.end(), command.begin(), command.end());
+    std::vector<char*> args;
+    for (auto& arg : argv)
+        args.push_back(arg.data());
+    args.push_back(nullptr);
     const pid_t pid = fork();
-    if (pid < 0)
-        return 0;
-    if (pid == 0) {
+    if (pid == 0) {  // only async-signal-safe calls until exec
         prctl(PR_SET_PDEATHSIG, SIGTERM);
         const int devNull = open("/dev/null", O_RDWR);
         dup2(devNull, STDIN_FILENO);
-        dup2(stdoutFd >= 0 ? stdoutFd : devNull, STDOUT_FILENO);
+        dup2(out >= 0 ? out : devNull, STDOUT_FILENO);
         dup2(devNull, STDERR_FILENO);
-        execvpe(argp[0], argp.data(), envp.data());
+        execvp(args[0], args.data());
         _exit(127);
     }
-    return pid;
+    return pid > 0 ? pid : 0;
+}
+
+bool exited(pid_t pid) {
+    return waitpid(pid, nullptr, WNOHANG) == pid;
+}
+
+void stop(pid_t pid) {
+    kill(pid, SIGTERM);
+    if (!waitUntil([&] { return exited(pid); }, 2000ms)) {
+        kill(pid, SIGKILL);
+        waitpid(pid, nullptr, 0);
+    }
+}
+
+std::string lockFile(const std::string& display) {
+    return "/tmp/.X" + display.substr(1) + "-lock";
 }
 
 }  // namespace
 
 bool waitUntil(const std::function<bool()>& condition, std::chrono::milliseconds timeout) {
     const auto deadline = std::chrono::steady_clock::now() + timeout;
-    for (;;) {
-        if (condition())
-            return true;
+    while (!condition()) {
         if (std::chrono::steady_clock::now() >= deadline)
             return false;
         std::this_thread::sleep_for(10ms);
     }
-}
-
-bool XvfbDisplay::xvfbInstalled() {
-    return onPath("Xvfb");
-}
-
-XvfbDisplay::XvfbDisplay(Options options) : options_(options) {
-    for (int number = kFirstDisplay; number <= kLastDisplay && !server_; ++number) {
-        if (fs::exists("/tmp/.X11-unix/X" + std::to_string(number)) ||
-            fs::exists("/tmp/.X" + std::to_string(number) + "-lock")) {
-            continue;
-        }
-        startServer(number);
-    }
-    if (!server_) {
-        error_ = "no free display number could be started with Xvfb";
-        return;
-    }
-    ready_ = !options_.windowManager || startWindowManager();
-}
-
-XvfbDisplay::~XvfbDisplay() {
-    for (auto& pid : clients_)
-        stop(pid);
-    stop(windowManager_);
-    stop(server_);
-    if (placeholderLock_)
-        fs::remove("/tmp/.X" + std::to_string(number_) + "-lock");
-}
-
-bool XvfbDisplay::startServer(int number) {
-    const auto display = std::string(":").append(std::to_string(number));
-    std::vector<std::string> argv = {"Xvfb",     display,   "-nolisten", "tcp",
-                                     "-noreset", "-screen", "0",         "1280x800x24"};
-    if (!options_.screenSaverExtension) {
-        argv.push_back("-extension");
-        argv.push_back("MIT-SCREEN-SAVER");
-    }
-    const pid_t pid = spawnWith(argv, "");
-    if (!pid)
-        return false;
-    // The socket alone does not tell whose server it is: another test may have won the number. The
-    // lock file holds the pid of the server that owns it.
-    const auto socket = "/tmp/.X11-unix/X" + std::to_string(number);
-    const auto lock = "/tmp/.X" + std::to_string(number) + "-lock";
-    bool died = false;
-    const bool up = waitUntil([&] {
-        died = died || exited(pid);
-        if (died || !fs::exists(socket))
-            return died;
-        long owner = 0;
-        std::ifstream(lock) >> owner;
-        return owner == pid;
-    });
-    if (!up || died) {
-        if (!died) {
-            kill(pid, SIGKILL);
-            waitpid(pid, nullptr, 0);
-        }
-        return false;
-    }
-    server_ = pid;
-    number_ = number;
-    name_ = display;
     return true;
 }
 
-bool XvfbDisplay::startWindowManager() {
-    windowManager_ = spawnWith({"openbox", "--sm-disable"}, name_);
-    const bool up =
-        windowManager_ && waitUntil([&] {
-            // Openbox publishes the client list last, once it handles map requests.
-            return run({"xprop", "-root", "_NET_CLIENT_LIST"}, 1000ms).find("window id") != std::string::npos;
-        });
-    if (!up)
-        error_ = "openbox did not start on " + name_;
-    return up;
+XvfbDisplay::XvfbDisplay(Options options) : options_(options) {
+    start("");
 }
 
-void XvfbDisplay::stop(pid_t& pid) {
-    if (pid <= 0)
-        return;
-    kill(pid, SIGTERM);
-    if (!waitUntil([&] { return exited(pid); }, 2000ms)) {
-        kill(pid, SIGKILL);
-        waitpid(pid, nullptr, 0);
+XvfbDisplay::~XvfbDisplay() {
+    for (auto pid = processes_.rbegin(); pid != processes_.rend(); ++pid)
+        stop(*pid);
+}
+
+// Xvfb on `display`, or on a number it picks when empty, then openbox.
+bool XvfbDisplay::start(const std::string& display) {
+    std::vector<std::string> argv = {"Xvfb",     "-displayfd", "1", "-nolisten",  "tcp",
+                                     "-noreset", "-screen",    "0", "1280x800x24"};
+    if (!display.empty())
+        argv.insert(argv.begin() + 1, display);
+    if (!options_.screenSaverExtension)
+        argv.insert(argv.end(), {"-extension", "MIT-SCREEN-SAVER"});
+    int fds[2];
+    if (pipe2(fds, O_CLOEXEC) != 0)
+        return false;
+    const pid_t server = launch(argv, "", fds[1]);
+    close(fds[1]);
+    std::string number;
+    pollfd ready{fds[0], POLLIN, 0};
+    for (char c; server && poll(&ready, 1, 10000) == 1 && read(fds[0], &c, 1) == 1 && c != '\n';)
+        number += c;
+    close(fds[0]);
+    if (number.empty()) {
+        error_ = "Xvfb did not start; scripts/install-deps installs it";
+        if (server)
+            stop(server);
+        return false;
     }
-    pid = 0;
+    processes_.push_back(server);
+    name_ = ":" + number;
+    if (options_.windowManager) {
+        spawn({"openbox", "--sm-disable"});
+        // Openbox publishes the client list last, once it handles map requests.
+        if (!waitUntil([&] {
+                return run({"xprop", "-root", "_NET_CLIENT_LIST"}, 1000ms).find("window id") !=
+                       std::string::npos;
+            })) {
+            error_ = "openbox did not start on " + name_;
+            return false;
+        }
+    }
+    return ready_ = true;
 }
 
 pid_t XvfbDisplay::spawn(const std::vector<std::string>& argv) {
-    const pid_t pid = spawnWith(argv, name_);
+    const pid_t pid = launch(argv, name_);
     if (pid)
-        clients_.push_back(pid);
+        processes_.push_back(pid);
     return pid;
 }
 
 std::string XvfbDisplay::run(const std::vector<std::string>& argv, std::chrono::milliseconds timeout) {
+    std::vector<std::string> timed = {"timeout", "-s", "KILL", std::to_string(timeout.count() / 1000.0)};
+    timed.insert(timed.end(), argv.begin(), argv.end());
     int fds[2];
     if (pipe2(fds, O_CLOEXEC) != 0)
         return {};
-    const pid_t pid = spawnWith(argv, name_, fds[1]);
+    const pid_t pid = launch(timed, name_, fds[1]);
     close(fds[1]);
     std::string output;
-    if (pid) {
-        fcntl(fds[0], F_SETFL, O_NONBLOCK);
-        bool done = false;
-        waitUntil(
-            [&] {
-                char buffer[4096];
-                ssize_t n;
-                while ((n = read(fds[0], buffer, sizeof buffer)) > 0)
-                    output.append(buffer, static_cast<std::size_t>(n));
-                done = exited(pid);
-                return done;
-            },
-            timeout);
-        if (!done) {
-            kill(pid, SIGKILL);
-            waitpid(pid, nullptr, 0);
-        }
-        char buffer[4096];
-        ssize_t n;
-        while ((n = read(fds[0], buffer, sizeof buffer)) > 0)
-            output.append(buffer, static_cast<std::size_t>(n));
-    }
+    char buffer[4096];
+    for (ssize_t n; pid && (n = read(fds[0], buffer, sizeof buffer)) > 0;)
+        output.append(buffer, static_cast<std::size_t>(n));
     close(fds[0]);
+    if (pid)
+        waitpid(pid, nullptr, 0);
     return output;
 }
 
@@ -250,30 +168,21 @@ void XvfbDisplay::activate(const std::string& windowID) {
 }
 
 void XvfbDisplay::stopServer() {
-    for (auto& pid : clients_)
-        stop(pid);
-    clients_.clear();
-    stop(windowManager_);
-    const pid_t server = server_;
-    stop(server_);
-    // Xvfb removes its socket and lock on a clean exit. Keep the number from other tests meanwhile:
-    // a lock naming the dead server is stale to Xvfb, which replaces it, but taken to our search.
-    const auto number = std::to_string(number_);
-    waitUntil(
-        [&] { return !fs::exists("/tmp/.X11-unix/X" + number) && !fs::exists("/tmp/.X" + number + "-lock"); },
-        2000ms);
+    for (auto pid = processes_.rbegin(); pid != processes_.rend(); ++pid)
+        stop(*pid);
+    processes_.clear();
+    ready_ = false;
+    // Hold the number until the restart: Xvfb skips a number whose lock names a live process.
+    const std::string lock = lockFile(name_);
+    waitUntil([&] { return !std::filesystem::exists(lock); }, 2000ms);
     char text[16];
-    std::snprintf(text, sizeof text, "%10d\n", static_cast<int>(server));
-    std::ofstream("/tmp/.X" + number + "-lock") << text;
-    placeholderLock_ = true;
+    std::snprintf(text, sizeof text, "%10d\n", static_cast<int>(getpid()));
+    std::ofstream(lock) << text;
 }
 
 bool XvfbDisplay::restartServer() {
-    placeholderLock_ = false;
-    if (number_ < 0 || !startServer(number_))
-        return false;
-    ready_ = !options_.windowManager || startWindowManager();
-    return ready_;
+    std::filesystem::remove(lockFile(name_));
+    return start(name_);
 }
 
 }  // namespace larkspan::test

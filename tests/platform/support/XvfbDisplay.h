@@ -1,5 +1,5 @@
-// A private X display for one test: Xvfb on a free display number, openbox on it, and the X
-// clients the test starts. Everything started here is stopped, by process id, at destruction.
+// A private X display for one test: Xvfb on a display number it picks itself, openbox on it, and the
+// X clients the test starts. Everything started here is stopped, by process id, at destruction.
 #pragma once
 
 #include <sys/types.h>
@@ -21,8 +21,6 @@ public:
         bool screenSaverExtension = true;  // false starts Xvfb without MIT-SCREEN-SAVER
         bool windowManager = true;         // openbox
     };
-
-    static bool xvfbInstalled();
 
     explicit XvfbDisplay(Options options);
     XvfbDisplay() : XvfbDisplay(Options{}) {}
@@ -52,17 +50,11 @@ public:
     bool restartServer();
 
 private:
-    bool startServer(int number);
-    bool startWindowManager();
-    void stop(pid_t& pid);
+    bool start(const std::string& display);
 
     Options options_;
     std::string name_;
-    int number_ = -1;
-    pid_t server_ = 0;
-    pid_t windowManager_ = 0;
-    std::vector<pid_t> clients_;
-    bool placeholderLock_ = false;  // our lock file holds the number while the server is down
+    std::vector<pid_t> processes_;  // the server first, then the window manager and the clients
     bool ready_ = false;
     std::string error_;
 };
