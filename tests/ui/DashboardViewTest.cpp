@@ -196,7 +196,7 @@ private slots:
         QCOMPARE(screen.text("reviewDetail"), QStringLiteral("1 need categorizing"));
 
         screen.grab();  // lays the sidebar out anew
-        QVERIFY(screen.click("reviewButton"));
+        QVERIFY(screen.press("reviewButton"));
         QCOMPARE(controller.selectedTab(), QStringLiteral("Review"));
         QCOMPARE(screen.text("detailTitle"), QStringLiteral("Review"));
         QVERIFY(screen.find("reviewButton")->property("selected").toBool());

@@ -67,15 +67,18 @@ Pane {
                 icon.source: Icons.source("play.fill")
                 icon.color: palette.buttonText
                 onClicked: clicks++
+                Accessible.onPressAction: clicked()
             }
             Button {
                 text: "Delete"
+                Accessible.onPressAction: clicked()
                 icon.source: Icons.source("trash")
                 icon.color: "#e5484d"
             }
             Button {
                 objectName: "back"
                 Accessible.name: "Previous day"
+                Accessible.onPressAction: clicked()
                 icon.source: Icons.source("chevron.left")
                 icon.color: palette.buttonText
                 display: AbstractButton.IconOnly

@@ -209,7 +209,7 @@ private slots:
 
         // The button's name follows the run state.
         QCOMPARE(screen.accessibleName("timerMainButton"), QStringLiteral("Start focus"));
-        QVERIFY(screen.click("timerMainButton"));
+        QVERIFY(screen.press("timerMainButton"));
         QCOMPARE(day.pomodoro.runState.get(), PomodoroTimer::RunState::running);
         QCOMPARE(screen.accessibleName("timerMainButton"), QStringLiteral("Pause focus"));
         QCOMPARE(mainButton->property("symbol").toString(), QStringLiteral("pause.fill"));

@@ -7,6 +7,8 @@ import Larkspan
 // tab to a screen reader; Tab reaches the list, the arrow keys move within it, Return or Space selects.
 // A row of the controller's tab model.
 AbstractButton {
+    // Qt 6.4's buttons offer Press to a screen reader but do nothing on it: do what a click does.
+    Accessible.onPressAction: clicked()
     id: row
 
     required property string label

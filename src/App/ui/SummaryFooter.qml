@@ -24,6 +24,7 @@ RowLayout {
         icon.width: 16
         icon.height: 16
         font.pixelSize: Theme.fontSmall
+        Accessible.onPressAction: clicked()
         onClicked: footer.controller.openDashboard()
     }
     Item {

@@ -102,6 +102,7 @@ Rectangle {
                 border.width: parent.visualFocus ? 2 : 0
                 border.color: palette.highlight
             }
+            Accessible.onPressAction: clicked()
             onClicked: card.controller.stopTimer()
         }
 
@@ -125,6 +126,7 @@ Rectangle {
                 border.width: parent.visualFocus ? 2 : 0
                 border.color: palette.highlight
             }
+            Accessible.onPressAction: clicked()
             onClicked: card.controller.toggleTimer()
         }
     }

@@ -156,6 +156,7 @@ PromptCard {
                             required property string menuTitle
                             objectName: "menu-" + index
                             text: menuTitle
+                            Accessible.onPressAction: clicked()
                             font.pixelSize: 12
                             implicitHeight: 26
                             contentItem: Row {

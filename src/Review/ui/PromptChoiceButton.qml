@@ -4,6 +4,8 @@ import Larkspan
 
 // One answer of a floating prompt: an emoji over a label, each on one line, on a tinted rounded tile.
 AbstractButton {
+    // Qt 6.4's buttons offer Press to a screen reader but do nothing on it: do what a click does.
+    Accessible.onPressAction: clicked()
     id: control
 
     property string emoji

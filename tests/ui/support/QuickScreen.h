@@ -63,6 +63,8 @@ public:
     // not visible.
     bool click(const QString& objectName);
     bool hover(const QString& objectName);
+    // Does the item's accessible press action, as a screen reader does; false when there is none.
+    bool press(const QString& objectName);
     // What a screen reader calls the item; empty when it has no accessible element.
     QString accessibleName(const QString& objectName) const;
     // Gives the item the keyboard focus as the Tab key does, which shows its focus ring.
@@ -77,7 +79,7 @@ public:
     // accessibility: a problem is a warning, which fails the test.
     bool saveScreenshot(const QString& test, const QString& state);
     // What a screen reader could not use in the window as it is now: a control without a name, or an
-    // element offering to be pressed that is not a button and so would do nothing.
+    // element offering to be pressed whose press nothing answers.
     QStringList accessibilityProblems() const;
 
 private:
