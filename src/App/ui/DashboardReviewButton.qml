@@ -6,7 +6,7 @@ import Larkspan
 // The sidebar's way to the review screen while activities wait for a category. Selected it is
 // orange with white texts; otherwise a light orange wash with the usual texts. The last page tab of
 // the sidebar to a screen reader and to the keyboard.
-AbstractButton {
+TabButton {
     // Qt 6.4's buttons offer Press to a screen reader but do nothing on it: do what a click does.
     Accessible.onPressAction: clicked()
     id: button
@@ -17,7 +17,8 @@ AbstractButton {
 
     padding: 10
     focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.PageTab
+    // Selected by the controller, not by its own check state.
+    checkable: false
     Accessible.name: controller.reviewButton.title + ", " + controller.reviewButton.detail
     Accessible.selectable: true
     Accessible.selected: selected

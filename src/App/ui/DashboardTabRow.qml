@@ -6,7 +6,7 @@ import Larkspan
 // One row of the dashboard's tab list: the tab's symbol and label, highlighted while selected. A page
 // tab to a screen reader; Tab reaches the list, the arrow keys move within it, Return or Space selects.
 // A row of the controller's tab model.
-AbstractButton {
+TabButton {
     // Qt 6.4's buttons offer Press to a screen reader but do nothing on it: do what a click does.
     Accessible.onPressAction: clicked()
     id: row
@@ -19,7 +19,8 @@ AbstractButton {
     implicitHeight: 32
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.PageTab
+    // Selected by the controller, not by its own check state.
+    checkable: false
     Accessible.name: label
     Accessible.selectable: true
     Accessible.selected: selected

@@ -123,14 +123,14 @@ Rectangle {
                         color: root.detailAccent
                     }
                 }
-                Label {
+                Text {
                     objectName: "detailTitle"
                     Layout.fillWidth: true
                     Accessible.role: Accessible.Heading
                     Accessible.name: text
                     horizontalAlignment: Text.AlignHCenter
                     text: root.controller.shownTab
-                    color: palette.windowText
+                    color: Theme.primaryText
                     font.pixelSize: Theme.fontLargeTitle
                     font.weight: Font.DemiBold
                 }
