@@ -122,6 +122,15 @@ a11y press "page tab" "~^Review Activities"
 a11y has "page tab" "~^Review Activities" selected
 a11y has heading "Review"
 
+# The accessibility bus going away leaves tracking as it was.
+a11y_bus=$(dbus-send --session --print-reply --dest=org.freedesktop.DBus / \
+    org.freedesktop.DBus.GetConnectionUnixProcessID string:org.a11y.Bus | awk '/uint32/ {print $2}')
+kill "$a11y_bus"
+before_bus=$(rows)
+switch_to "$terminal" 6
+xdotool windowactivate --sync "$editor"
+wait_until 10 has_rows_above "$before_bus" || fail "tracking stopped with the accessibility bus"
+
 # A hard kill loses nothing already written, and a restart neither seeds again nor stops tracking.
 kill -9 "$tracker"
 wait "$tracker" 2>/dev/null || true

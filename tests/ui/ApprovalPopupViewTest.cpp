@@ -61,6 +61,9 @@ private slots:
             QVERIFY(screen.saveScreenshot("approval", "six"));
         }
         // Brought to the keyboard, the card rings the focused answer.
+        QVERIFY(screen.focusByKeyboard("category-5"));
+        QTest::keyClick(screen.window(), Qt::Key_Left);
+        QVERIFY(screen.find("category-4")->hasActiveFocus());
         QVERIFY(screen.focusByKeyboard("category-0"));
         for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
             screen.setColorScheme(scheme);

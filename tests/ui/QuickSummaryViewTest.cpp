@@ -225,6 +225,7 @@ private slots:
         QTest::qWait(600);
         screenshots(screen, "timer-paused");
         QVERIFY(screen.focusByKeyboard("timerMainButton"));
+        QVERIFY(mainButton->property("visualFocus").toBool());
         screenshots(screen, "focus-ring");
         QVERIFY(screen.click("timerMainButton"));
         QCOMPARE(day.pomodoro.runState.get(), PomodoroTimer::RunState::running);

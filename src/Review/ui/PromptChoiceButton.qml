@@ -6,6 +6,10 @@ import Larkspan
 AbstractButton {
     // Qt 6.4's buttons offer Press to a screen reader but do nothing on it: do what a click does.
     Accessible.onPressAction: clicked()
+    // Within the grid the arrow keys step from answer to answer, Return answers.
+    Keys.onLeftPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+    Keys.onRightPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+    Keys.onReturnPressed: clicked()
     id: control
 
     property string emoji

@@ -67,7 +67,8 @@ public:
     bool press(const QString& objectName);
     // What a screen reader calls the item; empty when it has no accessible element.
     QString accessibleName(const QString& objectName) const;
-    // Gives the item the keyboard focus as the Tab key does, which shows its focus ring.
+    // Presses Tab until the item has the keyboard focus, which shows its focus ring; false when Tab
+    // never reaches it.
     bool focusByKeyboard(const QString& objectName);
     // The item's `text` property; empty when there is none.
     QString text(const QString& objectName) const;
