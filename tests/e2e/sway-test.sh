@@ -31,14 +31,7 @@ stop_all() {
     [ -n "${KEEP_E2E:-}" ] || rm -rf "$root"
 }
 trap stop_all EXIT
-wait_until() {
-    local deadline=$((SECONDS + $1))
-    shift
-    until "$@" >/dev/null 2>&1; do
-        [ "$SECONDS" -lt "$deadline" ] || return 1
-        sleep 0.2
-    done
-}
+. "$(dirname "$0")/wait-until.sh"
 
 export HOME="$root/home" XDG_DATA_HOME="$root/data" XDG_CONFIG_HOME="$root/config"
 export XDG_RUNTIME_DIR="$root/runtime" XDG_CACHE_HOME="$root/cache" XDG_DATA_DIRS=/usr/local/share:/usr/share
