@@ -29,6 +29,11 @@ private slots:
             screen.setColorScheme(scheme);
             QVERIFY(screen.saveScreenshot("idle-return", "options"));
         }
+        QVERIFY(screen.focusByKeyboard("option-1"));
+        for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+            screen.setColorScheme(scheme);
+            QVERIFY(screen.saveScreenshot("idle-return", "focus-ring"));
+        }
         QVERIFY(screen.click("option-2"));
         QVERIFY(screen.click("option-0"));
         QCOMPARE(answers, std::vector<std::int64_t>{6});
