@@ -19,6 +19,9 @@ larkspan="$stage/usr/bin/larkspan"
 id=org.larkspan.Larkspan
 sizes="16 22 24 32 48 64 128 256 512"
 expected="usr/bin/larkspan
+usr/libexec/larkspan/larkspan-browser-host
+usr/share/larkspan/browser-extension/background.js
+usr/share/larkspan/browser-extension/manifest.json
 usr/share/applications/$id.desktop
 usr/share/doc/larkspan/README.md
 usr/share/doc/larkspan/changelog.gz
