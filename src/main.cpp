@@ -95,8 +95,9 @@ int main(int argc, char** argv) {
     LinuxScriptRunner scripts(desktop.windows, browserBridge);
     QtRepeatingTimer timers;
     SettingsStore defaults;
-    StartAtLogin startAtLogin(autostartEntryPath(std::getenv), runningExecutable(), defaults);
-    startAtLogin.offerAtFirstLaunch(isInstalledExecutable(runningExecutable()), *notifier);
+    const auto executable = runningExecutable();
+    StartAtLogin startAtLogin(autostartEntryPath(std::getenv), executable, defaults);
+    startAtLogin.offerAtFirstLaunch(isInstalledExecutable(executable), *notifier);
     CanberraSoundPlayer sounds;
     NotificationCenter notifications;
     SerialQueue monitorQueue(kMonitorQueueLabel);
