@@ -1,5 +1,7 @@
-// Xvfb management. Xvfb picks a free display number itself and writes it to -displayfd once it
-// accepts connections, so tests running side by side never race for a number.
+// Xvfb management. Each display takes a number well above the low ones other desktops pick for
+// themselves, starting at one derived from the process id, and moves on when a number is taken; a
+// stopped server's number is then not the lowest free one any other Xvfb would take meanwhile.
+// Xvfb writes the number to -displayfd once it accepts connections.
 #include "XvfbDisplay.h"
 
 #include <fcntl.h>
@@ -72,7 +74,10 @@ bool waitUntil(const std::function<bool()>& condition, std::chrono::milliseconds
 }
 
 XvfbDisplay::XvfbDisplay(Options options) : options_(options) {
-    start("");
+    const int first = 200 + static_cast<int>(getpid() % 600);
+    // A number that is taken makes Xvfb exit at once; a server that came up ends the search.
+    for (int number = first; number < first + 20 && name_.empty(); ++number)
+        start(":" + std::to_string(number));
 }
 
 XvfbDisplay::~XvfbDisplay() {
@@ -80,12 +85,11 @@ XvfbDisplay::~XvfbDisplay() {
         stop(*pid);
 }
 
-// Xvfb on `display`, or on a number it picks when empty, then openbox.
+// Xvfb on `display`, then openbox.
 bool XvfbDisplay::start(const std::string& display) {
-    std::vector<std::string> argv = {"Xvfb",     "-displayfd", "1", "-nolisten",  "tcp",
-                                     "-noreset", "-screen",    "0", "1280x800x24"};
-    if (!display.empty())
-        argv.insert(argv.begin() + 1, display);
+    std::vector<std::string> argv = {"Xvfb",      "-displayfd", "1", "-nolisten",  "tcp",
+                                     "-noreset",  "-screen",    "0", "1280x800x24"};
+    argv.insert(argv.begin() + 1, display);
     if (!options_.screenSaverExtension)
         argv.insert(argv.end(), {"-extension", "MIT-SCREEN-SAVER"});
     int fds[2];

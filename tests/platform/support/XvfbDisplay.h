@@ -1,4 +1,4 @@
-// A private X display for one test: Xvfb on a display number it picks itself, openbox on it, and the
+// A private X display for one test: Xvfb on a free display number, openbox on it, and the
 // X clients the test starts. Everything started here is stopped, by process id, at destruction.
 #pragma once
 
