@@ -9,17 +9,8 @@
 #include "App/ui/DashboardWindow.h"
 #include "App/ui/QmlModule.h"
 #include "App/ui/QtAppPresenter.h"
-#include "Classification/CategoryEngine.h"
-#include "Data/Database.h"
-#include "Focus/PomodoroTimer.h"
-#include "ManualClock.h"
-#include "ManualMainQueue.h"
-#include "ManualTimerHub.h"
-#include "MemoryKeyValueStore.h"
+#include "DashboardRig.h"
 #include "QuickScreen.h"
-#include "RecordingSoundPlayer.h"
-#include "TempDir.h"
-#include "Tracking/SessionManager.h"
 
 using namespace larkspan;
 using larkspan::test::ActivityBuilder;
@@ -27,15 +18,7 @@ using larkspan::test::ActivityBuilder;
 namespace {
 
 // A morning of tracking: closed rows, two of them waiting for a category (one too short to count).
-struct Tracker {
-    test::TempDir dir;
-    Database db{dir / "tracker.db"};
-    CategoryEngine engine;
-    test::ManualClock clock{1'763'884'800.0};  // 2025-11-23 08:00 UTC
-    test::ManualMainQueue mainQueue;
-    test::ManualTimerHub timers{clock};
-    std::shared_ptr<SessionManager> manager = SessionManager::create(db, engine, clock, mainQueue, timers);
-
+struct Tracker : test::DashboardRig {
     explicit Tracker(int pending) {
         const Date t0 = clock.now() - 3 * 3600;
         db.insertActivity(ActivityBuilder(-1, t0, 1500)
@@ -108,11 +91,10 @@ private slots:
     void sidebarShowsTheLiveSessionAndTheReviewButton() {
         Tracker tracker(3);
         tracker.track("Code", "com.microsoft.VSCode", "DashboardController.cpp \u2014 larkspan");
-        DashboardController controller(tracker.db, *tracker.manager, tracker.clock.now());
+        DashboardController& controller = tracker.dashboard;
         controller.loadCategories();
         QuickScreen screen;
-        QVERIFY(
-            screen.load("DashboardView", {{"controller", QVariant::fromValue(&controller)}}, {1100, 740}));
+        QVERIFY(screen.load("DashboardView", tracker.viewProperties(), {1100, 740}));
 
         QCOMPARE(screen.text("sidebarTitle"), QStringLiteral("Larkspan"));
         QVERIFY(screen.find("liveCard")->isVisible());
@@ -150,11 +132,10 @@ private slots:
 
     void withoutSessionTheCardAndTheButtonAreAbsent() {
         Tracker tracker(0);
-        DashboardController controller(tracker.db, *tracker.manager, tracker.clock.now());
+        DashboardController& controller = tracker.dashboard;
         controller.loadCategories();
         QuickScreen screen;
-        QVERIFY(
-            screen.load("DashboardView", {{"controller", QVariant::fromValue(&controller)}}, {1100, 740}));
+        QVERIFY(screen.load("DashboardView", tracker.viewProperties(), {1100, 740}));
         QVERIFY(!screen.find("liveCard")->isVisible());
         QVERIFY(!screen.find("reviewButton")->isVisible());
         QVERIFY(!screen.find("reviewDivider")->isVisible());
@@ -171,10 +152,9 @@ private slots:
         Tracker tracker(0);
         tracker.track("Code", "com.microsoft.VSCode", "main.cpp");
         // Before the window has read the categories, every category is unknown.
-        DashboardController controller(tracker.db, *tracker.manager, tracker.clock.now());
+        DashboardController& controller = tracker.dashboard;
         QuickScreen screen;
-        QVERIFY(
-            screen.load("DashboardView", {{"controller", QVariant::fromValue(&controller)}}, {1100, 740}));
+        QVERIFY(screen.load("DashboardView", tracker.viewProperties(), {1100, 740}));
         QCOMPARE(screen.text("liveIcon"), QStringLiteral("\u23F1"));
         QCOMPARE(screen.text("liveStatus"), QStringLiteral("Live \u00B7 Tracking"));
         QCOMPARE(screen.find("liveDot")->property("color").value<QColor>(), QColor("#8E8E93"));
@@ -184,10 +164,9 @@ private slots:
 
     void reviewButtonShowsFromOneAndOpensTheReviewScreen() {
         Tracker tracker(0);
-        DashboardController controller(tracker.db, *tracker.manager, tracker.clock.now());
+        DashboardController& controller = tracker.dashboard;
         QuickScreen screen;
-        QVERIFY(
-            screen.load("DashboardView", {{"controller", QVariant::fromValue(&controller)}}, {1100, 740}));
+        QVERIFY(screen.load("DashboardView", tracker.viewProperties(), {1100, 740}));
         QVERIFY(!screen.find("reviewButton")->isVisible());
         QVERIFY(!screen.click("reviewButton"));
         // The published count, not the store's, decides: it may run ahead of the rows.
@@ -234,11 +213,8 @@ private slots:
         QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
         Tracker tracker(2);
         tracker.track("Code", "com.microsoft.VSCode", "main.cpp");
-        test::MemoryKeyValueStore defaults;
-        test::RecordingSoundPlayer sounds;
-        PomodoroTimer timer(tracker.clock, defaults, sounds, tracker.timers);
         QtAppPresenter presenter;
-        presenter.attach(tracker.db, *tracker.manager, timer);
+        presenter.attach(tracker.db, *tracker.manager, tracker.timer);
 
         // The offscreen platform has no tray, so the dashboard stands in at launch.
         QVERIFY(!QSystemTrayIcon::isSystemTrayAvailable());
@@ -282,7 +258,7 @@ private slots:
         const QString settings = QString::fromStdString((tracker.dir / "Larkspan.conf").string());
         const QRect moved(40, 30, 960, 640);
         {
-            DashboardWindow dashboard(engine, tracker.db, *tracker.manager, tracker.clock.now(), settings);
+            DashboardWindow dashboard(engine, tracker.services, settings);
             dashboard.open();
             QVERIFY(QTest::qWaitForWindowExposed(&dashboard.window()));
             dashboard.window().setGeometry(moved);
@@ -292,13 +268,13 @@ private slots:
         }
         QCOMPARE(QSettings(settings, QSettings::IniFormat).value("Dashboard").toRect(), moved);
         {
-            DashboardWindow dashboard(engine, tracker.db, *tracker.manager, tracker.clock.now(), settings);
+            DashboardWindow dashboard(engine, tracker.services, settings);
             QCOMPARE(dashboard.window().geometry(), moved);
         }
         // A place no screen shows any more gives the default size, centred where it can be seen.
         QSettings(settings, QSettings::IniFormat).setValue("Dashboard", QRect(-9000, -9000, 500, 400));
         {
-            DashboardWindow dashboard(engine, tracker.db, *tracker.manager, tracker.clock.now(), settings);
+            DashboardWindow dashboard(engine, tracker.services, settings);
             QCOMPARE(dashboard.window().size(), DashboardWindow::defaultSize);
             QVERIFY(QGuiApplication::primaryScreen()->availableGeometry().contains(
                 dashboard.window().position()));

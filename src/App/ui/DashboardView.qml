@@ -9,6 +9,7 @@ Rectangle {
     id: root
 
     required property DashboardController controller
+    required property DashboardScreens screens
 
     // The review screen keeps the orange of its button; the others the palette's accent.
     readonly property color detailAccent: controller.shownTab === controller.reviewTab
@@ -97,62 +98,22 @@ Rectangle {
             }
         }
 
-        // Each tab's screen comes later; until then the tab says what it will show.
-        Item {
+        // The selected tab's screen, made when the tab is first shown.
+        Loader {
+            id: detail
             objectName: "detail"
             SplitView.fillWidth: true
+            // Each screen adds its tab's label and component here. (A switch in a binding hangs the
+            // compiled QML of Qt 6.4.)
+            sourceComponent: ({
+            })[root.controller.shownTab] ?? comingSoon
 
-            ColumnLayout {
-                anchors.centerIn: parent
-                width: Math.min(parent.width - 64, 520)
-                spacing: 10
+            Component {
+                id: comingSoon
 
-                Rectangle {
-                    Layout.alignment: Qt.AlignHCenter
-                    Layout.bottomMargin: 8
-                    implicitWidth: 88
-                    implicitHeight: 88
-                    radius: 44
-                    color: Theme.tint(root.detailAccent, Theme.wash)
-
-                    SymbolIcon {
-                        objectName: "detailSymbol"
-                        anchors.centerIn: parent
-                        name: root.controller.shownSymbol
-                        size: 40
-                        color: root.detailAccent
-                    }
-                }
-                Text {
-                    objectName: "detailTitle"
-                    Layout.fillWidth: true
-                    Accessible.role: Accessible.Heading
-                    Accessible.name: text
-                    horizontalAlignment: Text.AlignHCenter
-                    text: root.controller.shownTab
-                    color: Theme.primaryText
-                    font.pixelSize: Theme.fontLargeTitle
-                    font.weight: Font.DemiBold
-                }
-                StartAtLoginSwitch {
-                    objectName: "startAtLogin"
-                    Layout.fillWidth: true
-                    visible: root.controller.shownTab === "Settings" && StartAtLoginController.available
-                }
-                BrowserBridgeStatus {
-                    objectName: "browserBridgeStatus"
-                    Layout.fillWidth: true
-                    Layout.bottomMargin: 12
-                    visible: root.controller.shownTab === "Settings"
-                }
-                Label {
-                    objectName: "detailLine"
-                    Layout.fillWidth: true
-                    horizontalAlignment: Text.AlignHCenter
-                    wrapMode: Text.Wrap
-                    text: root.controller.shownComingLine
-                    color: Theme.secondaryText
-                    font.pixelSize: 14
+                DashboardComingSoon {
+                    controller: root.controller
+                    accent: root.detailAccent
                 }
             }
         }

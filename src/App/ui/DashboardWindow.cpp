@@ -9,10 +9,11 @@
 
 namespace larkspan {
 
-DashboardWindow::DashboardWindow(QQmlEngine& engine, Database& database, SessionManager& sessionManager,
-                                 Date now, const QString& settingsPath, QObject* parent)
+DashboardWindow::DashboardWindow(QQmlEngine& engine, const DashboardServices& services,
+                                 const QString& settingsPath, QObject* parent)
     : QObject(parent),
-      controller_(database, sessionManager, now),
+      controller_(services.database, services.sessionManager, services.clock.now()),
+      screens_(services, controller_),
       settings_(settingsPath, QSettings::IniFormat),
       view_(std::make_unique<QQuickView>(&engine, nullptr)) {
     view_->setTitle(QStringLiteral("Larkspan"));
@@ -22,7 +23,8 @@ DashboardWindow::DashboardWindow(QQmlEngine& engine, Database& database, Session
     // Hidden, the window keeps its view and state but not what drawing it took.
     view_->setPersistentGraphics(false);
     view_->setPersistentSceneGraph(false);
-    view_->setInitialProperties({{QStringLiteral("controller"), QVariant::fromValue(&controller_)}});
+    view_->setInitialProperties({{QStringLiteral("controller"), QVariant::fromValue(&controller_)},
+                                 {QStringLiteral("screens"), QVariant::fromValue(&screens_)}});
     view_->setSource(QUrl(QStringLiteral("qrc:/qt/qml/Larkspan/DashboardView.qml")));
     restoreGeometry();
 

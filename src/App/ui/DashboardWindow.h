@@ -12,6 +12,7 @@
 #include <memory>
 
 #include "App/ui/DashboardController.h"
+#include "App/ui/DashboardScreens.h"
 
 class QQmlEngine;
 
@@ -24,10 +25,10 @@ public:
     static inline const QString geometryKey = QStringLiteral("Dashboard");
 
     // Builds the window hidden over `engine` (prepared with prepareQmlEngine), which must outlive it,
-    // as must `database` and `sessionManager`. `settingsPath` is the INI file that keeps the geometry;
-    // `now` (seconds since 1970) is the first selected date.
-    DashboardWindow(QQmlEngine& engine, Database& database, SessionManager& sessionManager, Date now,
-                    const QString& settingsPath, QObject* parent = nullptr);
+    // as must everything in `services`. `settingsPath` is the INI file that keeps the geometry; the
+    // first selected date is today.
+    DashboardWindow(QQmlEngine& engine, const DashboardServices& services, const QString& settingsPath,
+                    QObject* parent = nullptr);
     ~DashboardWindow() override;
 
     // Shows the window (un-minimised), raises it and asks for the keyboard focus.
@@ -41,6 +42,7 @@ private:
     void saveGeometry();
 
     DashboardController controller_;
+    DashboardScreens screens_;
     QSettings settings_;
     std::unique_ptr<QQuickView> view_;
 };

@@ -115,11 +115,12 @@ void QtAppPresenter::closeIdlePopup() {
 }
 
 void QtAppPresenter::openDashboard() {
-    if (!database_ || !sessionManager_)
+    if (!database_ || !sessionManager_ || !pomodoroTimer_)
         return;
     if (!dashboard_) {
-        dashboard_ = std::make_unique<DashboardWindow>(engine(), *database_, *sessionManager_, clock_.now(),
-                                                       SettingsStore::defaultPath());
+        dashboard_ = std::make_unique<DashboardWindow>(
+            engine(), DashboardServices{*database_, *sessionManager_, *pomodoroTimer_, clock_},
+            SettingsStore::defaultPath());
         releaseWhenHidden(dashboard_->window());
     }
     dashboard_->open();
