@@ -27,7 +27,7 @@
 #include "Platform/Linux/X11WindowHints.h"
 #include "Platform/PrivateFiles.h"
 #include "Platform/Qt/DBusNotifier.h"
-#include "Platform/Qt/NotificationPrompts.h"
+#include "Platform/Qt/LazyNotificationPrompts.h"
 #include "Platform/Qt/OrderlyExit.h"
 #include "Platform/Qt/QtMainQueue.h"
 #include "Platform/Qt/QtRepeatingTimer.h"
@@ -106,9 +106,9 @@ int main(int argc, char** argv) {
     BrowserBridgeStatusModel::share(&browserStatus);
     QtAppPresenter presenter;
     // A Wayland client cannot float its cards at the bottom right; notifications with actions can.
-    std::optional<NotificationPrompts> prompts;
+    std::optional<LazyNotificationPrompts> prompts;
     if (session.wayland)
-        prompts.emplace(presenter, QDBusConnection::sessionBus());
+        prompts.emplace(presenter);
 
     StartAtLoginController startAtLoginSwitch(nullptr);
     startAtLoginSwitch.setStartAtLogin(&startAtLogin, notifier.get());

@@ -39,4 +39,11 @@ ScreenRect placePopover(const std::optional<ScreenRect>& trayIcon, ScreenPoint p
             clampInto(y, height, available.y, available.height), width, height};
 }
 
+ScreenRect centrePopover(const ScreenRect& available, int width, int height) {
+    const std::int64_t x = std::int64_t{available.x} + (std::int64_t{available.width} - width) / 2;
+    const std::int64_t y = std::int64_t{available.y} + (std::int64_t{available.height} - height) / 2;
+    return {clampInto(x, width, available.x, available.width),
+            clampInto(y, height, available.y, available.height), width, height};
+}
+
 }  // namespace larkspan

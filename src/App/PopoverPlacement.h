@@ -38,4 +38,8 @@ inline constexpr int kPopoverGap = 4;
 ScreenRect placePopover(const std::optional<ScreenRect>& trayIcon, ScreenPoint pointer,
                         const ScreenRect& available, int width, int height);
 
+// The frame where neither the tray icon's place nor the pointer is known (a Wayland client learns
+// neither): centred in `available`, or at its top-left corner when larger.
+ScreenRect centrePopover(const ScreenRect& available, int width, int height);
+
 }  // namespace larkspan

@@ -18,12 +18,20 @@ ScreenRect screenRect(const QRect& rect) {
     return {rect.x(), rect.y(), rect.width(), rect.height()};
 }
 
+// A Wayland client neither knows the pointer outside its own windows nor places its windows; the
+// compositor does, and most centre a small window of fixed size.
+bool placesItself() {
+    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
 }  // namespace
 
 QuickSummaryPopover::QuickSummaryPopover(QQmlEngine& engine, QuickSummaryController& controller,
                                          QObject* parent)
     : QObject(parent), controller_(controller) {
-    window_.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    // Where it cannot open against the icon, it is an ordinary window the user can move and close.
+    window_.setFlags(placesItself() ? Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
+                                    : Qt::Window | Qt::WindowCloseButtonHint | Qt::WindowTitleHint);
     // Not "Larkspan": that names the dashboard, which scripts and window lists look up by title.
     window_.setTitle(QStringLiteral("Quick Summary"));
     window_.resize(kSize);
@@ -63,15 +71,17 @@ void QuickSummaryPopover::toggle(const QRect& trayIcon) {
 }
 
 void QuickSummaryPopover::show(const QRect& trayIcon) {
-    const QPoint pointer = QCursor::pos();
-    const QPoint anchor = trayIcon.isEmpty() ? pointer : trayIcon.center();
-    QScreen* screen = QGuiApplication::screenAt(anchor);
+    const bool centred = trayIcon.isEmpty() && !placesItself();
+    const QPoint pointer = centred ? QPoint() : QCursor::pos();
+    QScreen* screen =
+        centred ? nullptr : QGuiApplication::screenAt(trayIcon.isEmpty() ? pointer : trayIcon.center());
     if (!screen) {
         screen = QGuiApplication::primaryScreen();
     }
     const ScreenRect available = screen ? screenRect(screen->availableGeometry()) : ScreenRect{};
-    const ScreenRect frame = placePopover(screenRect(trayIcon), {pointer.x(), pointer.y()}, available,
-                                          kSize.width(), kSize.height());
+    const ScreenRect frame = centred ? centrePopover(available, kSize.width(), kSize.height())
+                                     : placePopover(screenRect(trayIcon), {pointer.x(), pointer.y()},
+                                                    available, kSize.width(), kSize.height());
     if (screen) {
         window_.setScreen(screen);
     }

@@ -1,7 +1,9 @@
 // The window of the quick summary: a frameless 320 × 420 window that opens against the tray icon
 // (or at the pointer when the tray does not say where it is), inside the screen's available area,
-// and closes when it loses activation, which a click anywhere else brings. The view inside is made
-// once and lives with the window; each opening loads the day again.
+// and closes when it loses activation, which a click anywhere else brings. On Wayland, where a
+// client learns neither the pointer nor (from Qt's StatusNotifierItem) the icon's place, it is an
+// ordinary small window centred on the primary screen, or against the icon when the tray tells. The view
+// inside is made once and lives with the window; each opening loads the day again.
 //
 // A click on the tray icon while the popover is open first takes activation away, which closes it;
 // the click's toggle that follows must not reopen it, so a toggle right after such a close does

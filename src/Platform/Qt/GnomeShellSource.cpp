@@ -8,7 +8,6 @@
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 
-#include <chrono>
 #include <functional>
 
 namespace larkspan {
@@ -17,10 +16,7 @@ namespace {
 
 const char* const kPath = "/org/larkspan/Larkspan/FocusedWindow";
 const char* const kInterface = "org.larkspan.Larkspan.FocusedWindow";
-const char* const kMutterService = "org.gnome.Mutter.IdleMonitor";
-const char* const kMutterPath = "/org/gnome/Mutter/IdleMonitor/Core";
 constexpr int kCallTimeoutMs = 1000;
-constexpr int kIdlePollMs = 2000;  // half the capture period, so a capture sees a fresh figure
 
 bool hasOwner(const QDBusConnection& bus, const QString& service) {
     if (!bus.isConnected())
@@ -33,7 +29,10 @@ bool hasOwner(const QDBusConnection& bus, const QString& service) {
 
 GnomeShellSource::GnomeShellSource(std::shared_ptr<ReportedWorkspace> workspace, QDBusConnection bus,
                                    QObject* parent)
-    : QObject(parent), workspace_(std::move(workspace)), bus_(std::move(bus)) {
+    : QObject(parent),
+      workspace_(std::move(workspace)),
+      bus_(std::move(bus)),
+      idle_(workspace_, IdleTimePoll::kMutter) {
     bus_.connect(kExtensionService, kPath, kInterface, "Changed", this,
                  SLOT(onChanged(QString, QString, QString, uint)));
     watcher_ = new QDBusServiceWatcher(
@@ -44,8 +43,7 @@ GnomeShellSource::GnomeShellSource(std::shared_ptr<ReportedWorkspace> workspace,
         front_ = {};
         workspace_->sourceConnected(false);
     });
-    connect(&idleTimer_, &QTimer::timeout, this, &GnomeShellSource::pollIdle);
-    idleTimer_.start(kIdlePollMs);
+    idle_.start(bus_);
     if (extensionPresent(bus_))
         fetch();
 }
@@ -88,24 +86,6 @@ void GnomeShellSource::onChanged(const QString& appID, const QString& wmClass, c
     front_ = window;
     workspace_->sourceConnected(true);
     workspace_->windowChanged(std::move(window), true);
-}
-
-void GnomeShellSource::pollIdle() {
-    auto call = QDBusMessage::createMethodCall(kMutterService, kMutterPath, kMutterService, "GetIdletime");
-    const auto sent = std::chrono::steady_clock::now();
-    auto* pending = new QDBusPendingCallWatcher(bus_.asyncCall(call, kCallTimeoutMs), this);
-    connect(pending, &QDBusPendingCallWatcher::finished, this,
-            [this, sent](QDBusPendingCallWatcher* finished) {
-                finished->deleteLater();
-                const QDBusPendingReply<qulonglong> reply = *finished;
-                if (reply.isError())
-                    return;
-                const auto idle = std::chrono::milliseconds(reply.value());
-                if (idle < std::chrono::seconds(1))
-                    workspace_->inputSilentSince(std::nullopt);
-                else
-                    workspace_->inputSilentSince(sent - idle);
-            });
 }
 
 }  // namespace larkspan

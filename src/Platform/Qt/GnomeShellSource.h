@@ -7,11 +7,11 @@
 
 #include <QDBusConnection>
 #include <QObject>
-#include <QTimer>
 
 #include <memory>
 
 #include "Platform/Linux/ReportedWorkspace.h"
+#include "Platform/Qt/IdleTimePoll.h"
 
 class QDBusServiceWatcher;
 
@@ -36,12 +36,11 @@ private slots:
 
 private:
     void fetch();
-    void pollIdle();
 
     const std::shared_ptr<ReportedWorkspace> workspace_;
     QDBusConnection bus_;
     QDBusServiceWatcher* watcher_ = nullptr;
-    QTimer idleTimer_;
+    IdleTimePoll idle_;
     ReportedWindow front_;  // the window last reported in front; id 0 when none
 };
 

@@ -46,6 +46,7 @@ NotificationPrompts::NotificationPrompts(AppPresenter& windows, QDBusConnection 
         finished->deleteLater();
         const QDBusPendingReply<QStringList> reply = *finished;
         actions_ = !reply.isError() && reply.value().contains(QStringLiteral("actions"));
+        emit capabilitiesKnown();
     });
 }
 

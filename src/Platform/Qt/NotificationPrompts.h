@@ -38,6 +38,10 @@ public:
     void showStatusTitle(const StatusTitle& title) override { windows_.showStatusTitle(title); }
     void closePopover() override { windows_.closePopover(); }
 
+signals:
+    // The server has answered whether it supports actions (or failed to answer); emitted once.
+    void capabilitiesKnown();
+
 private slots:
     void onActionInvoked(uint id, const QString& key);
     void onClosed(uint id, uint reason);

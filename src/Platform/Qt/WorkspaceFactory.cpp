@@ -8,6 +8,7 @@
 #include "Platform/Linux/Wayland/WaylandSource.h"
 #include "Platform/Linux/X11Workspace.h"
 #include "Platform/Qt/GnomeShellSource.h"
+#include "Platform/Qt/IdleTimePoll.h"
 #include "Platform/Qt/KWinSource.h"
 
 namespace larkspan {
@@ -39,6 +40,13 @@ const DesktopNotice kGnomeLost = {
     "Larkspan's GNOME Shell extension stopped answering (the Shell restarted, or the extension was "
     "turned off). Tracking resumes by itself as soon as it is back."};
 
+// Silence from the screen saver's bus interface, for a compositor without an idle protocol.
+std::shared_ptr<void> screenSaverIdle(std::shared_ptr<ReportedWorkspace> workspace) {
+    auto poll = std::make_shared<IdleTimePoll>(std::move(workspace), IdleTimePoll::kScreenSaver);
+    poll->startOnSessionBus();
+    return poll;
+}
+
 }  // namespace
 
 SessionWorkspace makeSessionWorkspace(const SessionEnvironment& session,
@@ -56,10 +64,13 @@ SessionWorkspace makeSessionWorkspace(const SessionEnvironment& session,
             std::move(identity), std::move(mainQueue), std::move(notifier), kWaylandAccess, kWaylandLost);
         // Readable from the start: the first capture must not wait for the thread's first round trip.
         reported->sourceConnected(true);
-        return {reported,
-                reported,
-                {std::make_shared<WaylandSource>(session.waylandDisplay, reported)},
-                "wlroots"};
+        SessionWorkspace result{reported,
+                                reported,
+                                {std::make_shared<WaylandSource>(session.waylandDisplay, reported)},
+                                "wlroots"};
+        if (!offer.idleNotify)
+            result.sources.push_back(screenSaverIdle(reported));
+        return result;
     }
     const auto bus = QDBusConnection::sessionBus();
     if (KWinSource::runsOn(bus)) {
@@ -70,9 +81,10 @@ SessionWorkspace makeSessionWorkspace(const SessionEnvironment& session,
                             QStringLiteral("/larkspan-kwin.js");
         SessionWorkspace result{
             reported, reported, {std::make_shared<KWinSource>(reported, bus, script)}, "kwin"};
-        if (offer.idleNotify)
-            result.sources.push_back(std::make_shared<WaylandSource>(session.waylandDisplay, reported,
-                                                                     WaylandSource::Reads::silenceOnly));
+        result.sources.push_back(offer.idleNotify
+                                     ? std::make_shared<WaylandSource>(session.waylandDisplay, reported,
+                                                                       WaylandSource::Reads::silenceOnly)
+                                     : screenSaverIdle(reported));
         return result;
     }
     if (GnomeShellSource::runsOn(bus)) {

@@ -26,7 +26,9 @@ struct SessionWorkspace {
 // X11 when the session is not Wayland. On Wayland: wlroots when the compositor lists toplevels;
 // KWin when it is on the session bus (a script reports windows, the compositor silence); GNOME
 // when the Shell is on the session bus (readable once Larkspan's extension is enabled);
-// otherwise a workspace that reads nothing and whose prompt explains why. Call on the main thread.
+// otherwise a workspace that reads nothing and whose prompt explains why. Input silence comes from the
+// compositor's idle protocol, Mutter on GNOME, and org.freedesktop.ScreenSaver where neither is there.
+// Call on the main thread.
 SessionWorkspace makeSessionWorkspace(const SessionEnvironment& session,
                                       std::shared_ptr<AppIdentity> identity,
                                       std::shared_ptr<MainQueue> mainQueue,
