@@ -18,12 +18,11 @@ class FakeScreenSaver : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.ScreenSaver")
 public:
-    QVariant answer;  // invalid: never answers
+    QVariant answer;
 public slots:
     uint GetSessionIdleTime(const QDBusMessage& call) {
         call.setDelayedReply(true);
-        if (answer.isValid())
-            QDBusConnection(kPeer).send(call.createReply(answer));
+        QDBusConnection(kPeer).send(call.createReply(answer));
         return 0;
     }
 };
@@ -73,15 +72,13 @@ private slots:
         daemon_.waitForFinished();
     }
 
-    // Milliseconds, as KDE answers; a silent or nonsensical answer leaves the last figure (an hour).
+    // Milliseconds, as KDE answers; an answer of another type leaves the last figure (an hour).
     void screenSaverIdleTime_data() {
         QTest::addColumn<QVariant>("answer");
         QTest::addColumn<double>("idle");
         QTest::newRow("ninety seconds") << QVariant(90'000u) << 90.0;
-        QTest::newRow("seven weeks") << QVariant(4'294'967'295u) << 4'294'967.295;
         QTest::newRow("half a second") << QVariant(500u) << 0.0;
         QTest::newRow("text") << QVariant("idle") << 3600.0;
-        QTest::newRow("never answers") << QVariant() << 3600.0;
     }
     void screenSaverIdleTime() {
         QFETCH(QVariant, answer);

@@ -44,7 +44,7 @@ struct FakeCompositor::State {
     std::mutex mutex;  // guards tasks
     std::vector<std::function<void()>> tasks;
     bool stopping = false;
-    std::vector<wl_resource*> seats, managers, idleNotifications, handles;
+    std::vector<wl_resource*> managers, idleNotifications;
     std::map<int, wl_resource*> windows;
     int idleTimeoutMs = 0;
     std::thread thread;
@@ -75,10 +75,10 @@ FakeCompositor::FakeCompositor(Offer offer) : state_(std::make_unique<State>()) 
     wl_display_add_socket_fd(s.display, listener);
 
     static const struct wl_seat_interface seatImplementation = {};
-    wl_global_create(s.display, &wl_seat_interface, 1, &s,
-                     [](wl_client* client, void* data, uint32_t, uint32_t id) {
-                         track(static_cast<State*>(data)->seats,
-                               wl_resource_create(client, &wl_seat_interface, 1, id), &seatImplementation);
+    wl_global_create(s.display, &wl_seat_interface, 1, nullptr,
+                     [](wl_client* client, void*, uint32_t, uint32_t id) {
+                         wl_resource_set_implementation(wl_resource_create(client, &wl_seat_interface, 1, id),
+                                                        &seatImplementation, nullptr, nullptr);
                      });
     if (offer.toplevels) {
         static const struct zwlr_foreign_toplevel_manager_v1_interface managerImplementation = {.stop =
@@ -162,7 +162,7 @@ void FakeCompositor::showWindow(int key, const std::string& appID, const std::st
             handle = wl_resource_create(wl_resource_get_client(manager),
                                         &zwlr_foreign_toplevel_handle_v1_interface,
                                         wl_resource_get_version(manager), 0);
-            track(s.handles, handle, &handleImplementation);
+            wl_resource_set_implementation(handle, &handleImplementation, nullptr, nullptr);
             zwlr_foreign_toplevel_manager_v1_send_toplevel(manager, handle);
         }
         if (!handle)
