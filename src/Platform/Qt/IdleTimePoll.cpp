@@ -34,6 +34,8 @@ void IdleTimePoll::startOnSessionBus() {
 void IdleTimePoll::poll() {
     auto call =
         QDBusMessage::createMethodCall(method_.service, method_.path, method_.interface, method_.name);
+    // A desktop without the service must not have the bus start one every two seconds.
+    call.setAutoStartService(false);
     const auto sent = std::chrono::steady_clock::now();
     auto* pending = new QDBusPendingCallWatcher(bus_.asyncCall(call, kCallTimeoutMs), this);
     connect(pending, &QDBusPendingCallWatcher::finished, this,
