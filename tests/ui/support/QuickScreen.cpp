@@ -154,7 +154,9 @@ QQuickItem* findItem(QQuickItem* item, const QString& objectName) {
 }
 
 QQuickItem* QuickScreen::find(const QString& objectName) const {
-    return root_ ? findItem(root_, objectName) : nullptr;
+    QQuickItem* item = root_ ? findItem(root_, objectName) : nullptr;
+    // Popups live in the window's overlay, beside the view.
+    return item || !window_ ? item : findItem(window_->contentItem(), objectName);
 }
 
 std::optional<QPoint> QuickScreen::centreOf(const QString& objectName) const {
@@ -222,20 +224,20 @@ namespace {
 
 bool isControl(QAccessible::Role role) {
     switch (role) {
-    case QAccessible::Button:
-    case QAccessible::CheckBox:
-    case QAccessible::RadioButton:
-    case QAccessible::PageTab:
-    case QAccessible::ListItem:
-    case QAccessible::MenuItem:
-    case QAccessible::Slider:
-    case QAccessible::SpinBox:
-    case QAccessible::EditableText:
-    case QAccessible::ComboBox:
-    case QAccessible::Link:
-        return true;
-    default:
-        return false;
+        case QAccessible::Button:
+        case QAccessible::CheckBox:
+        case QAccessible::RadioButton:
+        case QAccessible::PageTab:
+        case QAccessible::ListItem:
+        case QAccessible::MenuItem:
+        case QAccessible::Slider:
+        case QAccessible::SpinBox:
+        case QAccessible::EditableText:
+        case QAccessible::ComboBox:
+        case QAccessible::Link:
+            return true;
+        default:
+            return false;
     }
 }
 
@@ -270,9 +272,9 @@ bool pressReachesAHandler(QObject* object) {
 QString describe(QAccessibleInterface* element) {
     QObject* object = element->object();
     return QStringLiteral("%1 \"%2\" (%3)")
-        .arg(QString::fromLatin1(object ? object->metaObject()->className() : "?"),
-             nameOf(element),
-             object && !object->objectName().isEmpty() ? object->objectName() : QStringLiteral("no objectName"));
+        .arg(QString::fromLatin1(object ? object->metaObject()->className() : "?"), nameOf(element),
+             object && !object->objectName().isEmpty() ? object->objectName()
+                                                       : QStringLiteral("no objectName"));
 }
 
 void audit(QAccessibleInterface* element, QStringList& problems) {
