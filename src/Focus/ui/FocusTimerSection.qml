@@ -14,6 +14,16 @@ ColumnLayout {
 
     signal settingsRequested()
 
+    // Stop and Skip: a wash of the mode's colour beside the filled main button.
+    component SecondaryBackground: Rectangle {
+        required property Button button
+        implicitHeight: 32
+        radius: 8
+        color: Theme.tint(section.timer.color, button.down ? Theme.buttonPressed : Theme.buttonWash)
+        border.width: button.visualFocus ? 2 : 0
+        border.color: palette.highlight
+    }
+
     spacing: 12
 
     RowLayout {
@@ -66,6 +76,7 @@ ColumnLayout {
                     font.pixelSize: Theme.fontBody
                     font.weight: modeButton.current ? Font.DemiBold : Font.Normal
                     horizontalAlignment: Text.AlignHCenter
+                    verticalAlignment: Text.AlignVCenter
                 }
                 background: Rectangle {
                     implicitHeight: 30
@@ -85,7 +96,6 @@ ColumnLayout {
     RowLayout {
         objectName: "activeTask"
         Layout.alignment: Qt.AlignHCenter
-        Layout.maximumWidth: section.width
         visible: section.timer.activeTaskTitle !== ""
         spacing: Theme.spacingSmall
         SymbolIcon {
@@ -95,7 +105,7 @@ ColumnLayout {
         }
         Label {
             objectName: "activeTaskTitle"
-            Layout.fillWidth: true
+            Layout.maximumWidth: section.width - 40
             text: section.timer.activeTaskTitle
             textFormat: Text.PlainText
             elide: Text.ElideRight
@@ -160,12 +170,17 @@ ColumnLayout {
         Layout.alignment: Qt.AlignHCenter
         spacing: Theme.spacingLarge
         Button {
+            id: stopButton
             objectName: "stopButton"
             visible: section.timer.showsStop
             text: section.labels.stop
             icon.source: Icons.source("stop.fill")
             icon.width: 12
             icon.height: 12
+            icon.color: section.timer.color
+            palette.buttonText: section.timer.color
+            implicitWidth: 90
+            background: SecondaryBackground { button: stopButton }
             Accessible.name: text
             Accessible.onPressAction: clicked()
             onClicked: section.controller.stopTimer()
@@ -193,12 +208,17 @@ ColumnLayout {
             onClicked: section.controller.toggleTimer()
         }
         Button {
+            id: skipButton
             objectName: "skipButton"
             visible: section.timer.showsSkip
             text: section.labels.skip
             icon.source: Icons.source("forward.end")
             icon.width: 12
             icon.height: 12
+            icon.color: section.timer.color
+            palette.buttonText: section.timer.color
+            implicitWidth: 90
+            background: SecondaryBackground { button: skipButton }
             Accessible.name: text
             Accessible.onPressAction: clicked()
             onClicked: section.controller.skipTimer()
