@@ -224,20 +224,20 @@ namespace {
 
 bool isControl(QAccessible::Role role) {
     switch (role) {
-        case QAccessible::Button:
-        case QAccessible::CheckBox:
-        case QAccessible::RadioButton:
-        case QAccessible::PageTab:
-        case QAccessible::ListItem:
-        case QAccessible::MenuItem:
-        case QAccessible::Slider:
-        case QAccessible::SpinBox:
-        case QAccessible::EditableText:
-        case QAccessible::ComboBox:
-        case QAccessible::Link:
-            return true;
-        default:
-            return false;
+    case QAccessible::Button:
+    case QAccessible::CheckBox:
+    case QAccessible::RadioButton:
+    case QAccessible::PageTab:
+    case QAccessible::ListItem:
+    case QAccessible::MenuItem:
+    case QAccessible::Slider:
+    case QAccessible::SpinBox:
+    case QAccessible::EditableText:
+    case QAccessible::ComboBox:
+    case QAccessible::Link:
+        return true;
+    default:
+        return false;
     }
 }
 
@@ -272,9 +272,9 @@ bool pressReachesAHandler(QObject* object) {
 QString describe(QAccessibleInterface* element) {
     QObject* object = element->object();
     return QStringLiteral("%1 \"%2\" (%3)")
-        .arg(QString::fromLatin1(object ? object->metaObject()->className() : "?"), nameOf(element),
-             object && !object->objectName().isEmpty() ? object->objectName()
-                                                       : QStringLiteral("no objectName"));
+        .arg(QString::fromLatin1(object ? object->metaObject()->className() : "?"),
+             nameOf(element),
+             object && !object->objectName().isEmpty() ? object->objectName() : QStringLiteral("no objectName"));
 }
 
 void audit(QAccessibleInterface* element, QStringList& problems) {
