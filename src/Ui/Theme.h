@@ -47,6 +47,10 @@ class Theme final : public QObject {
     Q_PROPERTY(double buttonWash MEMBER buttonWash CONSTANT)
     Q_PROPERTY(double buttonPressed MEMBER buttonPressed CONSTANT)
     Q_PROPERTY(double pressedFill MEMBER pressedFill CONSTANT)
+    Q_PROPERTY(double entryWash MEMBER entryWash CONSTANT)
+    Q_PROPERTY(double selectedRow MEMBER selectedRow CONSTANT)
+    Q_PROPERTY(double hollowMark MEMBER hollowMark CONSTANT)
+    Q_PROPERTY(double badgeText MEMBER badgeText CONSTANT)
 
     // Pixels between items in a row or column, small to large, and a section's inner margin.
     Q_PROPERTY(int spacingSmall MEMBER spacingSmall CONSTANT)
@@ -97,6 +101,10 @@ public:
     const double buttonWash = Palette::buttonWash;
     const double buttonPressed = Palette::buttonPressed;
     const double pressedFill = Palette::pressedFill;
+    const double entryWash = Palette::entryWash;
+    const double selectedRow = Palette::selectedRow;
+    const double hollowMark = Palette::hollowMark;
+    const double badgeText = Palette::badgeText;
 
     const int spacingSmall = 6;
     const int spacing = 8;

@@ -8,6 +8,7 @@
 
 #include "App/ui/DashboardController.h"
 #include "Focus/PomodoroTimer.h"
+#include "Focus/ui/FocusController.h"
 
 namespace larkspan {
 
@@ -23,11 +24,17 @@ class DashboardScreens final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The dashboard window makes its screens.")
+    Q_PROPERTY(larkspan::FocusController* focus READ focus CONSTANT)
 
 public:
     // `dashboard` holds what the screens share: the selected date and the categories.
     DashboardScreens(const DashboardServices& services, DashboardController& dashboard,
                      QObject* parent = nullptr);
+
+    FocusController* focus() { return &focus_; }
+
+private:
+    FocusController focus_;
 };
 
 }  // namespace larkspan

@@ -106,7 +106,13 @@ Rectangle {
             // Each screen adds its tab's label and component here. (A switch in a binding hangs the
             // compiled QML of Qt 6.4.)
             sourceComponent: ({
+                "Focus": focusScreen,
             })[root.controller.shownTab] ?? comingSoon
+
+            Component {
+                id: focusScreen
+                FocusView { controller: root.screens.focus }
+            }
 
             Component {
                 id: comingSoon

@@ -1,7 +1,6 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
-import QtQuick.Shapes
 import Larkspan
 
 // The Pomodoro timer: a ring filling with the session's progress around the mode's mark, the time
@@ -25,38 +24,15 @@ Rectangle {
         anchors.rightMargin: Theme.margin
         spacing: Theme.spacingLarge
 
-        Item {
+        ProgressRing {
             id: ring
             objectName: "timerRing"
-            Accessible.role: Accessible.ProgressBar
             Accessible.name: qsTr("%1 session %2 % done").arg(card.timer.modeName)
                                                           .arg(Math.round(100 * Math.min(1, Math.max(0, card.timer.progress))))
             implicitWidth: 38
             implicitHeight: 38
-            property real shownProgress: card.timer.progress
-            Behavior on shownProgress {
-                NumberAnimation { duration: 500; easing.type: Easing.Linear }
-            }
-            Shape {
-                anchors.fill: parent
-                ShapePath {
-                    strokeWidth: 4
-                    strokeColor: Theme.tint(card.timer.color, Theme.ringTrack)
-                    fillColor: "transparent"
-                    PathAngleArc { centerX: 19; centerY: 19; radiusX: 17; radiusY: 17; startAngle: 0; sweepAngle: 360 }
-                }
-                ShapePath {
-                    strokeWidth: 4
-                    strokeColor: ring.shownProgress > 0 ? card.timer.color : "transparent"
-                    fillColor: "transparent"
-                    capStyle: ShapePath.RoundCap
-                    PathAngleArc {
-                        centerX: 19; centerY: 19; radiusX: 17; radiusY: 17
-                        startAngle: -90
-                        sweepAngle: 360 * Math.min(1, Math.max(0, ring.shownProgress))
-                    }
-                }
-            }
+            progress: card.timer.progress
+            color: card.timer.color
             EmojiLabel {
                 anchors.centerIn: parent
                 text: card.timer.modeIcon

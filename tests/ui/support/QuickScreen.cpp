@@ -154,7 +154,9 @@ QQuickItem* findItem(QQuickItem* item, const QString& objectName) {
 }
 
 QQuickItem* QuickScreen::find(const QString& objectName) const {
-    return root_ ? findItem(root_, objectName) : nullptr;
+    QQuickItem* item = root_ ? findItem(root_, objectName) : nullptr;
+    // Popups live in the window's overlay, beside the view.
+    return item || !window_ ? item : findItem(window_->contentItem(), objectName);
 }
 
 std::optional<QPoint> QuickScreen::centreOf(const QString& objectName) const {

@@ -1,0 +1,150 @@
+// The focus tab over a real store in a temporary folder: idle with no tasks, adding from the keyboard,
+// running with an active task, paused, a long list of odd titles, renaming and the settings sheet,
+// each state photographed in light and dark.
+#include <QTest>
+
+#include "DashboardRig.h"
+#include "QuickScreen.h"
+
+using namespace larkspan;
+
+namespace {
+
+const QSize kTabSize{780, 740};
+
+bool visible(QuickScreen& screen, const QString& objectName) {
+    const QQuickItem* item = screen.find(objectName);
+    return item && item->isVisible();
+}
+
+void screenshots(QuickScreen& screen, const QString& state) {
+    for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+        screen.setColorScheme(scheme);
+        QVERIFY(screen.saveScreenshot(QStringLiteral("focus"), state));
+    }
+    screen.setColorScheme(ColorScheme::light);
+}
+
+struct FocusTab : test::DashboardRig {
+    FocusController& focus = *screens.focus();
+    QuickScreen screen;
+
+    bool load() {
+        const bool loaded = screen.load("FocusView", {{"controller", QVariant::fromValue(&focus)}}, kTabSize);
+        // Shortcuts answer in the active window only.
+        screen.window()->requestActivate();
+        focus.waitForLoad();
+        return loaded;
+    }
+    void key(Qt::Key key) { QTest::keyClick(screen.window(), key); }
+    void type(const QString& text) {
+        for (QChar c : text)
+            QTest::keyClick(screen.window(), c.toLatin1());
+    }
+};
+
+}  // namespace
+
+class FocusViewTest : public QObject {
+    Q_OBJECT
+private slots:
+    void idleAddRunPause() {
+        FocusTab tab;
+        QVERIFY(tab.load());
+        QVERIFY(visible(tab.screen, "emptyTasks"));
+        QVERIFY(!visible(tab.screen, "stopButton") && !visible(tab.screen, "skipButton"));
+        QCOMPARE(tab.screen.text("mainButton"), QStringLiteral("Start"));
+        QCOMPARE(tab.screen.text("todayCount"), QStringLiteral("0 pomodoros today"));
+        QVERIFY(!visible(tab.screen, "resetCountButton"));
+        screenshots(tab.screen, "idle-empty");
+
+        // Spaces only: "Add" stays disabled and Return keeps the line open; Escape cancels it.
+        QVERIFY(tab.screen.press("addFirstTaskButton"));
+        tab.type("   ");
+        QVERIFY(!tab.screen.find("addButton")->isEnabled());
+        tab.key(Qt::Key_Return);
+        QVERIFY(visible(tab.screen, "newTaskLine"));
+        tab.key(Qt::Key_Escape);
+        QVERIFY(!visible(tab.screen, "newTaskLine"));
+
+        // Return adds the trimmed title, which becomes the active task; the space bar in the field
+        // types, outside it starts the timer.
+        QVERIFY(tab.screen.press("addTaskButton"));
+        tab.type(" Write the report ");
+        QCOMPARE(tab.focus.newTaskTitle(), QStringLiteral(" Write the report "));
+        tab.key(Qt::Key_Return);
+        tab.focus.waitForLoad();
+        QCOMPARE(tab.db.fetchTodayTodos(tab.clock.now()).front().title, std::string("Write the report"));
+        QTRY_VERIFY(visible(tab.screen, "taskRow0"));
+        QCOMPARE(tab.timer.runState.get(), PomodoroTimer::RunState::idle);
+        tab.key(Qt::Key_Space);
+        QCOMPARE(tab.timer.runState.get(), PomodoroTimer::RunState::running);
+        tab.timers.advance(300);
+        QCOMPARE(tab.screen.text("activeTaskTitle"), QStringLiteral("Write the report"));
+        QCOMPARE(tab.screen.text("clockTime"), QStringLiteral("20:00"));
+        QCOMPARE(tab.screen.accessibleName("clockRing"), QStringLiteral("Focus, 20:00 left, 20 % done"));
+        screenshots(tab.screen, "running");
+
+        QVERIFY(tab.screen.press("mainButton"));
+        QCOMPARE(
+            tab.screen.text("stopButton") + tab.screen.text("mainButton") + tab.screen.text("skipButton"),
+            QStringLiteral("StopStartSkip"));
+        QVERIFY(!visible(tab.screen, "activeTask"));
+        screenshots(tab.screen, "paused");
+    }
+
+    void longListOfOddTitles() {
+        FocusTab tab;
+        const std::string titles[] = {
+            std::string(10'000, 'w'), "Fix \U0001F41B in the parser \U0001F680",
+            "\u05EA\u05D9\u05E7\u05D5\u05DF \u05D4\u05D1\u05D0\u05D2 \u05D1\u05DE\u05E0\u05EA\u05D7",
+            "it's \"quoted\" '); DROP TABLE todo_items; --"};
+        for (int i = 0; i < 24; ++i) {
+            const auto id =
+                tab.db.insertTodo(i < 4 ? titles[i] : "Task " + std::to_string(i + 1), tab.clock.now());
+            for (int n = 0; n < i % 3; ++n)
+                tab.db.incrementTodoPomo(id);
+            if (i % 4 == 1)
+                tab.db.toggleTodoComplete(id);
+        }
+        tab.timer.todayCount.set(3);
+        QVERIFY(tab.load());
+        QCOMPARE(tab.screen.text("todayTime"), QStringLiteral("\u2248 75m focused"));
+        QVERIFY(visible(tab.screen, "clearDoneButton"));
+        QTRY_VERIFY(tab.screen.find("taskTitle0"));
+        const QQuickItem* longTitle = tab.screen.find("taskTitle0")->childItems().front();
+        QVERIFY(longTitle->property("truncated").toBool());
+        QCOMPARE(longTitle->property("text").toString().size(), 10'000);
+        screenshots(tab.screen, "long-list");
+
+        // F2 renames; Escape drops the edit; "Clear done" removes the completed rows.
+        QVERIFY(tab.screen.focusByKeyboard("taskTitle1"));
+        tab.key(Qt::Key_F2);
+        tab.type("Renamed");
+        tab.key(Qt::Key_Return);
+        tab.focus.waitForLoad();
+        QCOMPARE(tab.db.fetchTodayTodos(tab.clock.now())[1].title, std::string("Renamed"));
+        QVERIFY(tab.screen.press("clearDoneButton"));
+        tab.focus.waitForLoad();
+        QCOMPARE(tab.focus.tasks()->count(), 18);
+        QVERIFY(!visible(tab.screen, "clearDoneButton"));
+    }
+
+    void settingsSheet() {
+        FocusTab tab;
+        QVERIFY(tab.load());
+        QVERIFY(tab.screen.press("settingsButton"));
+        QTRY_VERIFY(visible(tab.screen, "settingsDone"));
+        QVERIFY(tab.screen.focusByKeyboard("setting0"));
+        tab.key(Qt::Key_Up);
+        QCOMPARE(tab.timer.focusMinutes.get(), 30);
+        QCOMPARE(tab.screen.text("clockTime"), QStringLiteral("25:00"));  // an idle clock waits for "Done"
+        screenshots(tab.screen, "settings");
+        QVERIFY(tab.screen.press("settingsDone"));
+        QCOMPARE(tab.screen.text("clockTime"), QStringLiteral("30:00"));
+        QCOMPARE(tab.defaults.integer("pomo_focus"), std::optional<std::int64_t>(30));
+    }
+};
+
+QTEST_MAIN(FocusViewTest)
+#include "FocusViewTest.moc"
