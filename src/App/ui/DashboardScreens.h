@@ -8,6 +8,7 @@
 
 #include "App/ui/DashboardController.h"
 #include "Focus/PomodoroTimer.h"
+#include "Timeline/ui/TimelineController.h"
 
 namespace larkspan {
 
@@ -23,11 +24,17 @@ class DashboardScreens final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The dashboard window makes its screens.")
+    Q_PROPERTY(larkspan::TimelineController* timeline READ timeline CONSTANT)
 
 public:
     // `dashboard` holds what the screens share: the selected date and the categories.
     DashboardScreens(const DashboardServices& services, DashboardController& dashboard,
                      QObject* parent = nullptr);
+
+    TimelineController* timeline() { return &timeline_; }
+
+private:
+    TimelineController timeline_;
 };
 
 }  // namespace larkspan
