@@ -38,7 +38,7 @@ struct BusyDay : test::DashboardRig {
             else if (i % 4 < 2)
                 a.app("Code", "com.visualstudio.code").title("main.cpp").category(category_id::coding);
             else if (i % 4 == 2)
-                a.app("Chat", "org.example.Chat").title(titles[i % 4]).category(category_id::communication);
+                a.app("Chat", "org.example.Chat").title(titles[i / 4 % 4]).category(category_id::communication);
             else
                 a.app("Firefox", "org.mozilla.firefox").title(i % 7 == 0 ? longTitle : "Docs").category(11);
             const ActivityRecord record = a;

@@ -103,9 +103,6 @@ ItemDelegate {
                         color: Theme.tint(Theme.secondaryText, 0.12)
                     }
                 }
-                Item {
-                    Layout.fillWidth: true
-                }
             }
             Label {
                 objectName: "rowSubtitle" + row.index
