@@ -23,8 +23,10 @@ std::string formatSheetDuration(std::int64_t seconds) {
 }
 
 std::string summaryText(const DaySummary& summary) {
-    const auto percent = static_cast<int>(std::trunc(std::clamp(summary.productivityRatio(), 0.0, 1.0) * 100));
-    return formatDuration(summary.totalSeconds) + " tracked \u00B7 " + std::to_string(percent) + "% productive";
+    const auto percent =
+        static_cast<int>(std::trunc(std::clamp(summary.productivityRatio(), 0.0, 1.0) * 100));
+    return formatDuration(summary.totalSeconds) + " tracked \u00B7 " + std::to_string(percent) +
+           "% productive";
 }
 
 std::optional<std::string> rowSubtitle(const ActivityRecord& primary, const Category* category) {
@@ -111,7 +113,8 @@ std::vector<DetailRow> chapterDetailRows(const TimelineChapter& chapter, const T
 int sharePercent(std::int64_t seconds, std::int64_t engagedSeconds) {
     if (engagedSeconds < 1)
         return 0;
-    return static_cast<int>(std::trunc(static_cast<double>(seconds) / static_cast<double>(engagedSeconds) * 100));
+    return static_cast<int>(
+        std::trunc(static_cast<double>(seconds) / static_cast<double>(engagedSeconds) * 100));
 }
 
 std::vector<MixShare> categoryMix(const TimelineChapter& chapter, const std::vector<Category>& categories) {
@@ -122,17 +125,19 @@ std::vector<MixShare> categoryMix(const TimelineChapter& chapter, const std::vec
     std::vector<MixShare> mix;
     for (std::size_t i = 0; i < std::min<std::size_t>(breakdown.size(), 5); ++i) {
         const Category* category = categoryWithID(categories, breakdown[i].cid);
-        mix.push_back({breakdown[i].cid, category ? category->name : "Other", sharePercent(breakdown[i].secs, engaged)});
+        mix.push_back({breakdown[i].cid, category ? category->name : "Other",
+                       sharePercent(breakdown[i].secs, engaged)});
     }
     return mix;
 }
 
 std::vector<Category> panelGridCategories(const std::vector<Category>& categories) {
-    return {categories.begin(), categories.begin() + static_cast<std::ptrdiff_t>(
-                                                         std::min(categories.size(), panelGridSize))};
+    return {categories.begin(),
+            categories.begin() + static_cast<std::ptrdiff_t>(std::min(categories.size(), panelGridSize))};
 }
 
-void recategorize(Database& database, const std::vector<ActivityRecord>& activities, std::int64_t categoryID) {
+void recategorize(Database& database, const std::vector<ActivityRecord>& activities,
+                  std::int64_t categoryID) {
     for (const ActivityRecord& activity : activities)
         database.updateActivityCategory(activity.id, categoryID, true);
 }
@@ -217,9 +222,10 @@ std::vector<Category> manualSheetCategories(const std::vector<Category>& categor
 }
 
 ActivityRecord manualEntry(const ManualSheetValues& values) {
-    return ActivityRecord::manual(values.startTime, values.endTime, values.categoryID,
-                                  values.title.empty() ? manualDefaultTitle : values.title,
-                                  values.notes.empty() ? std::nullopt : std::optional<std::string>(values.notes));
+    return ActivityRecord::manual(
+        values.startTime, values.endTime, values.categoryID,
+        values.title.empty() ? manualDefaultTitle : values.title,
+        values.notes.empty() ? std::nullopt : std::optional<std::string>(values.notes));
 }
 
 }  // namespace larkspan

@@ -27,7 +27,8 @@ struct BusyDay : test::DashboardRig {
     // and one across midnight.
     void fill() {
         const std::string longTitle(10'000, 'x');
-        const char* titles[] = {"Standup \u2014 larkspan", "\u05E9\u05DC\u05D5\u05DD \u05E2\u05D5\u05DC\u05DD draft",
+        const char* titles[] = {"Standup \u2014 larkspan",
+                                "\u05E9\u05DC\u05D5\u05DD \u05E2\u05D5\u05DC\u05DD draft",
                                 "Release notes \U0001F680\U0001F44D\U0001F3FD", "Invalid \xC3\x28 bytes"};
         Date t = at(7, 0);
         for (int i = 0; i < 296; ++i) {
@@ -38,7 +39,9 @@ struct BusyDay : test::DashboardRig {
             else if (i % 4 < 2)
                 a.app("Code", "com.visualstudio.code").title("main.cpp").category(category_id::coding);
             else if (i % 4 == 2)
-                a.app("Chat", "org.example.Chat").title(titles[i / 4 % 4]).category(category_id::communication);
+                a.app("Chat", "org.example.Chat")
+                    .title(titles[i / 4 % 4])
+                    .category(category_id::communication);
             else
                 a.app("Firefox", "org.mozilla.firefox").title(i % 7 == 0 ? longTitle : "Docs").category(11);
             const ActivityRecord record = a;
@@ -79,7 +82,8 @@ bool visible(QuickScreen& screen, const QString& objectName) {
 
 // Scrolls the list so that row `index` has a delegate.
 void showRow(QuickScreen& screen, int index) {
-    QMetaObject::invokeMethod(screen.find("activityList"), "positionViewAtIndex", Q_ARG(int, index), Q_ARG(int, 1));
+    QMetaObject::invokeMethod(screen.find("activityList"), "positionViewAtIndex", Q_ARG(int, index),
+                              Q_ARG(int, 1));
 }
 
 int rowWhere(ValueListModelBase* model, const char* role, const QString& text) {

@@ -66,8 +66,8 @@ TimelineController::TimelineController(Database& database, DashboardController& 
       sheetCategories_(this) {
     std::vector<FilterOptionItem> options;
     for (const DurationOption& option : durationOptions)
-        options.push_back({static_cast<int>(option.seconds), toQString(option.label), static_cast<int>(option.seconds),
-                           option.seconds == 0});
+        options.push_back({static_cast<int>(option.seconds), toQString(option.label),
+                           static_cast<int>(option.seconds), option.seconds == 0});
     filterOptions_.setRows(std::move(options));
     connect(&dashboard_, &DashboardController::selectionChanged, this, [this] {
         if (dashboard_.selectedDate() != shownDate_)
@@ -136,7 +136,8 @@ void TimelineController::fillRows() {
         row.isManual = primary.isManual;
         row.pending = showsPendingDot(primary);
         row.visits = static_cast<int>(block.activities.size());
-        row.timeText = shortTimeText(block.startTime) + QStringLiteral(" \u2013 ") + shortTimeText(block.endTime);
+        row.timeText =
+            shortTimeText(block.startTime) + QStringLiteral(" \u2013 ") + shortTimeText(block.endTime);
         row.subtitle = toQString(rowSubtitle(primary, category));
         row.duration = toQString(formatRowDuration(block.durationSeconds()));
         row.selected = selection_.block && selection_.block->id() == block.id();
@@ -168,7 +169,8 @@ void TimelineController::fillCanvasWindow() {
         box.color = categoryColor(category);
         box.title = toQString(chapterTitle(chapter));
         box.line = toQString(chapterCanvasLine(chapter));
-        box.duration = toQString(formatDuration(box.isIdle ? chapter.wallSeconds() : chapter.engagedSeconds()));
+        box.duration =
+            toQString(formatDuration(box.isIdle ? chapter.wallSeconds() : chapter.engagedSeconds()));
         box.selected = selection_.chapter && selection_.chapter->id() == chapter.id();
         const std::vector<CategoryShare> breakdown = chapter.categoryBreakdown();
         std::int64_t total = 0;
@@ -177,8 +179,8 @@ void TimelineController::fillCanvasWindow() {
         total = std::max<std::int64_t>(total, 1);
         for (std::size_t i = 0; i < std::min(breakdown.size(), kStripSegments); ++i) {
             box.stripColors.append(categoryColor(categoryWithID(categories, breakdown[i].cid)));
-            box.stripHeights.append(std::max(2.0, frame.height * static_cast<double>(breakdown[i].secs) /
-                                                      static_cast<double>(total)));
+            box.stripHeights.append(std::max(
+                2.0, frame.height * static_cast<double>(breakdown[i].secs) / static_cast<double>(total)));
         }
         boxes.push_back(std::move(box));
     }
@@ -210,7 +212,8 @@ double TimelineController::scrollTargetY() const {
     if (header_.isToday || positioned_.empty())
         return scrollAnchorHour(clock_.now()) * canvas::hourHeight;
     // Another day opens at its first activity, an hour of context above it.
-    return std::max(0.0, std::floor(positioned_.front().frame.y / canvas::hourHeight - 1) * canvas::hourHeight);
+    return std::max(0.0,
+                    std::floor(positioned_.front().frame.y / canvas::hourHeight - 1) * canvas::hourHeight);
 }
 
 void TimelineController::setMinDurationFilter(int seconds) {
@@ -219,8 +222,8 @@ void TimelineController::setMinDurationFilter(int seconds) {
     minDurationFilter_ = seconds;
     std::vector<FilterOptionItem> options;
     for (const DurationOption& option : durationOptions)
-        options.push_back({static_cast<int>(option.seconds), toQString(option.label), static_cast<int>(option.seconds),
-                           option.seconds == seconds});
+        options.push_back({static_cast<int>(option.seconds), toQString(option.label),
+                           static_cast<int>(option.seconds), option.seconds == seconds});
     filterOptions_.setRows(std::move(options));
     emit filterChanged();
     load();
@@ -286,9 +289,9 @@ void TimelineController::deleteRow(double blockID) {
 }
 
 void TimelineController::tapChapter(double chapterID) {
-    const auto found = std::find_if(positioned_.begin(), positioned_.end(), [chapterID](const PositionedChapter& p) {
-        return static_cast<double>(p.chapter.id()) == chapterID;
-    });
+    const auto found = std::find_if(
+        positioned_.begin(), positioned_.end(),
+        [chapterID](const PositionedChapter& p) { return static_cast<double>(p.chapter.id()) == chapterID; });
     if (found == positioned_.end() || isIdleChapter(found->chapter))
         return;
     selection_.tapChapter(found->chapter);
@@ -314,14 +317,15 @@ void TimelineController::editPanelPrimary() {
 }
 
 void TimelineController::editPanelActivity(double activityID) {
-    const std::vector<ActivityRecord>* activities = listMode_ && selection_.block ? &selection_.block->activities
-                                                    : !listMode_ && selection_.chapter
-                                                        ? &selection_.chapter->activities
-                                                        : nullptr;
+    const std::vector<ActivityRecord>* activities =
+        listMode_ && selection_.block      ? &selection_.block->activities
+        : !listMode_ && selection_.chapter ? &selection_.chapter->activities
+                                           : nullptr;
     if (!activities)
         return;
-    const auto found = std::find_if(activities->begin(), activities->end(),
-                                    [activityID](const ActivityRecord& a) { return static_cast<double>(a.id) == activityID; });
+    const auto found = std::find_if(
+        activities->begin(), activities->end(),
+        [activityID](const ActivityRecord& a) { return static_cast<double>(a.id) == activityID; });
     if (found != activities->end())
         openEdit(*found);
 }
@@ -356,8 +360,9 @@ void TimelineController::recomputePanel() {
     std::vector<PanelActivityItem> activities;
     std::vector<MixShareItem> mix;
     const auto addActivity = [&](const ActivityRecord& activity, const QString& icon) {
-        activities.push_back({activity.id, static_cast<double>(activity.id), icon, toQString(activity.displayTitle()),
-                              shortTimeText(activity.startTime), toQString(formatRowDuration(activity.durationSeconds))});
+        activities.push_back({activity.id, static_cast<double>(activity.id), icon,
+                              toQString(activity.displayTitle()), shortTimeText(activity.startTime),
+                              toQString(formatRowDuration(activity.durationSeconds))});
     };
     if (listMode_ && selection_.block) {
         const TimelineBlock& block = *selection_.block;
@@ -395,7 +400,8 @@ void TimelineController::recomputePanel() {
         detailRows = chapterDetailRows(chapter, shortTime);
         int place = 0;
         for (const MixShare& share : categoryMix(chapter, categories))
-            mix.push_back({place++, toQString(share.name), categoryColor(categoryWithID(categories, share.cid)),
+            mix.push_back({place++, toQString(share.name),
+                           categoryColor(categoryWithID(categories, share.cid)),
                            QString::number(share.percent) + QLatin1Char('%')});
         for (const ActivityRecord& activity : chapter.activities)
             addActivity(activity, categoryIcon(categoryWithID(categories, activity.categoryID)));
@@ -511,7 +517,8 @@ void TimelineController::applyPreset(int index) {
 }
 
 void TimelineController::setSheetCategory(double categoryID) {
-    (selection_.showManualEntry ? manual_.categoryID : edit_.categoryID) = static_cast<std::int64_t>(categoryID);
+    (selection_.showManualEntry ? manual_.categoryID : edit_.categoryID) =
+        static_cast<std::int64_t>(categoryID);
     recomputeSheet();
 }
 

@@ -91,18 +91,23 @@ TEST(TimelineScreenTest, PanelRowsFollowTheSelection) {
     const TimelineBlock block =
         makeBlock({ActivityBuilder(1, 3600, 30).app("mpv"), ActivityBuilder(2, 3700, 90).app("mpv").open()});
     const auto rows = blockDetailRows(block, nullptr, clockText);
-    const std::vector<DetailRow> expected{{"Category", "Uncategorized"}, {"App", "mpv"},      {"Start", "01:01"},
-                                          {"Duration", "2m 0s"},         {"Sessions", "2 visits stitched"}};
+    const std::vector<DetailRow> expected{{"Category", "Uncategorized"},
+                                          {"App", "mpv"},
+                                          {"Start", "01:01"},
+                                          {"Duration", "2m 0s"},
+                                          {"Sessions", "2 visits stitched"}};
     EXPECT_EQ(rows, expected);
     EXPECT_EQ(blockDetailRows(makeBlock({ActivityBuilder(3, 0, 30)}), nullptr, clockText).size(), 5u);
 
-    const TimelineChapter mixed = makeChapter({ActivityBuilder(1, 0, 60).category(1), ActivityBuilder(2, 60, 30),
-                                               ActivityBuilder(3, 90, 10).category(1)});
+    const TimelineChapter mixed =
+        makeChapter({ActivityBuilder(1, 0, 60).category(1), ActivityBuilder(2, 60, 30),
+                     ActivityBuilder(3, 90, 10).category(1)});
     const std::vector<MixShare> mix{{1, "Coding", 70}, {std::nullopt, "Other", 30}};
     EXPECT_EQ(categoryMix(mixed, categories), mix);
     EXPECT_TRUE(categoryMix(makeChapter({ActivityBuilder(1, 0, 60).category(1)}), categories).empty());
     EXPECT_EQ(sharePercent(5, 0), 0);
-    EXPECT_EQ(chapterDetailRows(makeChapter({ActivityBuilder(1, 0, 60).open()}), clockText)[1].value, "00:01");
+    EXPECT_EQ(chapterDetailRows(makeChapter({ActivityBuilder(1, 0, 60).open()}), clockText)[1].value,
+              "00:01");
 
     EXPECT_EQ(panelGridCategories(categories).size(), 12u);
     EXPECT_EQ(panelGridCategories(categories).back().id, categories[11].id);
@@ -119,7 +124,8 @@ TEST(TimelineScreenTest, PickerReadsAndWritesOnTheSameDate) {
     // 02:30 does not exist on the day the clocks go forward: the time stays.
     const Date springDay = localInstant(2026, 3, 29, 1, 0);
     EXPECT_EQ(withHourMinute(springDay, 2, 30), springDay);
-    const std::vector<std::pair<int, const char*>> labels{{0, "12 AM"}, {1, "1 AM"}, {12, "12 PM"}, {23, "11 PM"}};
+    const std::vector<std::pair<int, const char*>> labels{
+        {0, "12 AM"}, {1, "1 AM"}, {12, "12 PM"}, {23, "11 PM"}};
     for (const auto& [hour, label] : labels)
         EXPECT_EQ(pickerHourLabel(hour), label);
 }
