@@ -134,8 +134,11 @@ struct StoredBusyDay {
     TimelineController& timeline = *rig.screens.timeline();
 
     StoredBusyDay() {
-        for (const ActivityRecord& record : busyDay())
+        for (ActivityRecord record : busyDay()) {
+            if (record.categoryID == 0)
+                record.categoryID.reset();  // no such category: uncategorised
             rig.db.insertActivity(record);
+        }
         rig.clock.set(kDayStart + 86'000);
         rig.dashboard.loadCategories();
     }

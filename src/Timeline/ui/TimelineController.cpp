@@ -122,6 +122,12 @@ void TimelineController::regroup() {
 
 void TimelineController::fillRows() {
     const std::vector<Category>& categories = dashboard_.categories();
+    // One format for the whole list: working it out takes longer than formatting a time.
+    const QLocale locale;
+    const QString format = shortTimeFormat(locale);
+    const auto timeText = [&](Date instant) {
+        return locale.toString(localDateTime(instant).time(), format);
+    };
     std::vector<ActivityRowItem> rows;
     rows.reserve(blocks_.size());
     for (const TimelineBlock& block : blocks_) {
@@ -136,8 +142,7 @@ void TimelineController::fillRows() {
         row.isManual = primary.isManual;
         row.pending = showsPendingDot(primary);
         row.visits = static_cast<int>(block.activities.size());
-        row.timeText =
-            shortTimeText(block.startTime) + QStringLiteral(" \u2013 ") + shortTimeText(block.endTime);
+        row.timeText = timeText(block.startTime) + QStringLiteral(" \u2013 ") + timeText(block.endTime);
         row.subtitle = toQString(rowSubtitle(primary, category));
         row.duration = toQString(formatRowDuration(block.durationSeconds()));
         row.selected = selection_.block && selection_.block->id() == block.id();

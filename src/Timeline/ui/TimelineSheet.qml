@@ -14,7 +14,8 @@ FocusScope {
 
     anchors.fill: parent
     z: 10
-    onVisibleChanged: if (visible) forceActiveFocus()
+    // Open, it takes the keyboard; closed, it gives it back to the screen.
+    onVisibleChanged: visible ? forceActiveFocus() : parent.forceActiveFocus()
     Keys.onEscapePressed: controller.cancelSheet()
     Keys.onReturnPressed: if (controller.sheet.canSave) controller.saveSheet()
     Keys.onEnterPressed: if (controller.sheet.canSave) controller.saveSheet()
