@@ -32,7 +32,8 @@ done
 
 a11y press "push button" "Add manual activity"
 a11y has heading "Add Activity"
-a11y type text "What were you doing?" "Reading: Clean Code"
+# The title field has the keyboard when the sheet opens.
+xdotool type --delay 20 "Reading: Clean Code"
 a11y press "push button" "Add Activity"
 a11y gone heading "Add Activity"
 stored=$(db "SELECT app_name, window_title, is_manual, is_approved, category_id, duration_seconds

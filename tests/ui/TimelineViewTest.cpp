@@ -127,6 +127,7 @@ private slots:
         // Each mode keeps its own selection.
         QVERIFY(screen.press("listMode"));
         QVERIFY(!day.timeline.panel().shown);
+        QTRY_VERIFY(!screen.find("detailPanel")->isVisible());
         auto* rows = day.timeline.rows();
         QVERIFY(rows->rowCount() > 100 && rows->rowCount() < 299);
         const int late = rowWhere(rows, "title", "Late film");

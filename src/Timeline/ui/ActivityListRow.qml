@@ -65,9 +65,17 @@ ItemDelegate {
                 spacing: 5
                 Layout.fillWidth: true
                 Label {
+                    id: titleLabel
                     objectName: "rowTitle" + row.index
+                    // As wide as the title, never wider, and elided when the row is short of room.
                     Layout.fillWidth: true
-                    Layout.maximumWidth: implicitWidth
+                    Layout.preferredWidth: natural.advanceWidth + 1
+                    Layout.maximumWidth: natural.advanceWidth + 1
+                    TextMetrics {
+                        id: natural
+                        font: titleLabel.font
+                        text: titleLabel.text
+                    }
                     horizontalAlignment: Text.AlignLeft
                     text: row.title
                     textFormat: Text.PlainText
@@ -102,6 +110,10 @@ ItemDelegate {
                         radius: height / 2
                         color: Theme.tint(Theme.secondaryText, 0.12)
                     }
+                }
+                Item {
+                    Layout.fillWidth: true
+                    Layout.preferredWidth: 0
                 }
             }
             Label {

@@ -8,6 +8,8 @@ TimelineSheet {
     id: manual
 
     saveText: "Add Activity"
+    // A fresh sheet waits for its title.
+    onVisibleChanged: if (visible) Qt.callLater(titleField.forceActiveFocus)
 
     Text {
         text: "Add Activity"
