@@ -1,7 +1,11 @@
 // The day view's computation at every redraw: blocks, chapters and the canvas layout of a busy day,
 // and the width pass of the layout, which compares placed chapters pairwise, from 100 to 2,000 chapters.
+// Then the screen itself over a store holding that day: from selecting the day to its canvas and list
+// models filled, and one frame of the canvas rendered offscreen.
 
 #include <benchmark/benchmark.h>
+#include <QGuiApplication>
+#include <QQuickItem>
 
 #include <array>
 #include <random>
@@ -9,6 +13,8 @@
 #include <vector>
 
 #include "ActivityBuilder.h"
+#include "DashboardRig.h"
+#include "QuickScreen.h"
 #include "Timeline/CanvasLayout.h"
 #include "Timeline/TimelineGrouping.h"
 
@@ -121,6 +127,71 @@ void chapterCounts(benchmark::internal::Benchmark* benchmark) {
 
 BENCHMARK(BM_LayoutWidthPassNothingShared)->Apply(chapterCounts);
 BENCHMARK(BM_LayoutWidthPass)->Apply(chapterCounts);
+
+// The busy day stored, shown by the timeline screen of a dashboard whose clock stands at its end.
+struct StoredBusyDay {
+    test::DashboardRig rig;
+    TimelineController& timeline = *rig.screens.timeline();
+
+    StoredBusyDay() {
+        for (ActivityRecord record : busyDay()) {
+            if (record.categoryID == 0)
+                record.categoryID.reset();  // no such category: uncategorised
+            rig.db.insertActivity(record);
+        }
+        rig.clock.set(kDayStart + 86'000);
+        rig.dashboard.loadCategories();
+    }
+};
+
+QGuiApplication& application() {
+    static int argc = 1;
+    static char name[] = "bench_TimelineBench";
+    static char* argv[] = {name, nullptr};
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    setenv("TZ", "UTC", 1);
+    static QGuiApplication app(argc, argv);
+    return app;
+}
+
+void BM_SelectBusyDayToCanvasAndList(benchmark::State& state) {
+    application();
+    StoredBusyDay day;
+    for (auto _ : state) {
+        state.PauseTiming();
+        day.rig.dashboard.setSelectedDate(kDayStart - 86'400);
+        day.timeline.waitForLoad();
+        state.ResumeTiming();
+        day.rig.dashboard.setSelectedDate(kDayStart + 43'200);
+        day.timeline.waitForLoad();
+    }
+    state.counters["rows"] = day.timeline.rows()->rowCount();
+    state.counters["boxes"] = day.timeline.chapters()->rowCount();
+}
+BENCHMARK(BM_SelectBusyDayToCanvasAndList)->Unit(benchmark::kMillisecond);
+
+void BM_CanvasFrameOffscreen(benchmark::State& state) {
+    application();
+    StoredBusyDay day;
+    day.rig.dashboard.setSelectedDate(kDayStart + 43'200);
+    QuickScreen screen;
+    if (!screen.load("TimelineView", {{"controller", QVariant::fromValue(&day.timeline)}}, {1100, 740})) {
+        state.SkipWithError("the view did not load");
+        return;
+    }
+    day.timeline.waitForLoad();
+    QQuickItem* canvas = screen.find("canvas");
+    double y = 700;
+    for (auto _ : state) {
+        // Each frame at another place of the day, so nothing is drawn twice alike.
+        y = y > 1900 ? 700 : y + 97;
+        canvas->setProperty("contentY", y);
+        benchmark::DoNotOptimize(screen.grab().constBits());
+    }
+    state.counters["boxes"] = day.timeline.chapters()->rowCount();
+}
+BENCHMARK(BM_CanvasFrameOffscreen)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace larkspan

@@ -106,9 +106,7 @@ private slots:
         // Three rows wait; the twelve-second one is too short to count.
         QCOMPARE(screen.text("reviewTitle"), QStringLiteral("Review Activities"));
         QCOMPARE(screen.text("reviewDetail"), QStringLiteral("3 need categorizing"));
-        QCOMPARE(screen.text("detailTitle"), QStringLiteral("Timeline"));
-        QCOMPARE(screen.text("detailLine"),
-                 QStringLiteral("Your day as a timeline of activities arrives here."));
+        QVERIFY(screen.find("dateText"));  // the timeline's screen
 
         for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
             screen.setColorScheme(scheme);
@@ -193,7 +191,7 @@ private slots:
         QCOMPARE(screen.text("detailTitle"), QStringLiteral("Review"));
         // A calendar day opens the timeline on that day.
         controller.dayTapped(1'763'000'000);
-        QCOMPARE(screen.text("detailTitle"), QStringLiteral("Timeline"));
+        QVERIFY(screen.find("dateText"));
         QCOMPARE(controller.selectedDate(), 1'763'000'000.0);
 
         // The keyboard's way through the tab list: a ring on the focused tab, the arrows move it.

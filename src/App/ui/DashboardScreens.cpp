@@ -4,8 +4,8 @@ namespace larkspan {
 
 DashboardScreens::DashboardScreens(const DashboardServices& services, DashboardController& dashboard,
                                    QObject* parent)
-    : QObject(parent), focus_(services.database, services.pomodoroTimer, services.clock, this) {
-    static_cast<void>(dashboard);
-}
+    : QObject(parent),
+      focus_(services.database, services.pomodoroTimer, services.clock, this),
+      timeline_(services.database, dashboard, services.clock, this) {}
 
 }  // namespace larkspan

@@ -9,6 +9,7 @@
 #include "App/ui/DashboardController.h"
 #include "Focus/PomodoroTimer.h"
 #include "Focus/ui/FocusController.h"
+#include "Timeline/ui/TimelineController.h"
 
 namespace larkspan {
 
@@ -25,6 +26,7 @@ class DashboardScreens final : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("The dashboard window makes its screens.")
     Q_PROPERTY(larkspan::FocusController* focus READ focus CONSTANT)
+    Q_PROPERTY(larkspan::TimelineController* timeline READ timeline CONSTANT)
 
 public:
     // `dashboard` holds what the screens share: the selected date and the categories.
@@ -32,9 +34,11 @@ public:
                      QObject* parent = nullptr);
 
     FocusController* focus() { return &focus_; }
+    TimelineController* timeline() { return &timeline_; }
 
 private:
     FocusController focus_;
+    TimelineController timeline_;
 };
 
 }  // namespace larkspan

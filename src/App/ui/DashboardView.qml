@@ -106,12 +106,24 @@ Rectangle {
             // Each screen adds its tab's label and component here. (A switch in a binding hangs the
             // compiled QML of Qt 6.4.)
             sourceComponent: ({
+                "Timeline": timelineScreen,
                 "Focus": focusScreen,
             })[root.controller.shownTab] ?? comingSoon
 
             Component {
+                id: timelineScreen
+
+                TimelineView {
+                    controller: root.screens.timeline
+                }
+            }
+
+            Component {
                 id: focusScreen
-                FocusView { controller: root.screens.focus }
+
+                FocusView {
+                    controller: root.screens.focus
+                }
             }
 
             Component {

@@ -1,0 +1,257 @@
+// The day screen over a temporary store holding a busy day: canvas and list, both panels, both
+// sheets writing what was typed, the keyboard, an empty day with and without a filter, and a refused
+// insert keeping the manual sheet open.
+#include <QTest>
+
+#include "ActivityBuilder.h"
+#include "DashboardRig.h"
+#include "LocalInstant.h"
+#include "QuickScreen.h"
+#include "ScopedTimeZone.h"
+
+using namespace larkspan;
+using test::ActivityBuilder;
+
+namespace {
+
+// 2025-11-22, the day before the rig's clock.
+Date at(int hour, int minute, int second = 0) {
+    return test::localInstant(2025, 11, 22, hour, minute, second);
+}
+
+struct BusyDay : test::DashboardRig {
+    TimelineController& timeline = *screens.timeline();
+
+    // About 300 activities from 07:00: editor sessions stitched in pairs between chat visits, pages with
+    // long, right-to-left and emoji titles, an away span every fortieth, a pending one, an open one
+    // and one across midnight.
+    void fill() {
+        const std::string longTitle(10'000, 'x');
+        const char* titles[] = {"Standup \u2014 larkspan",
+                                "\u05E9\u05DC\u05D5\u05DD \u05E2\u05D5\u05DC\u05DD draft",
+                                "Release notes \U0001F680\U0001F44D\U0001F3FD", "Invalid \xC3\x28 bytes"};
+        Date t = at(7, 0);
+        for (int i = 0; i < 296; ++i) {
+            const std::int64_t seconds = 20 + (i * 37) % 400;
+            ActivityBuilder a(-1, t, seconds);
+            if (i % 40 == 39)
+                a = ActivityBuilder::away(-1, t, 900);
+            else if (i % 4 < 2)
+                a.app("Code", "com.visualstudio.code").title("main.cpp").category(category_id::coding);
+            else if (i % 4 == 2)
+                a.app("Chat", "org.example.Chat")
+                    .title(titles[i / 4 % 4])
+                    .category(category_id::communication);
+            else
+                a.app("Firefox", "org.mozilla.firefox").title(i % 7 == 0 ? longTitle : "Docs").category(11);
+            const ActivityRecord record = a;
+            db.insertActivity(record);
+            t = *record.endTime + 5;
+        }
+        db.insertActivity(ActivityBuilder(-1, at(13, 0), 200).app("Zqx").title("Mystery tool").pending(0.3));
+        db.insertActivity(ActivityBuilder(-1, at(20, 0), 0).app("kitty", "net.kovidgoyal.kitty").open());
+        db.insertActivity(ActivityBuilder(-1, at(23, 50), 1200).app("mpv").title("Late film").category(12));
+        dashboard.loadCategories();
+        dashboard.setSelectedDate(at(12, 0));
+    }
+
+    void load(QuickScreen& screen) {
+        QVERIFY(screen.load("TimelineView", {{"controller", QVariant::fromValue(&timeline)}}, {1100, 740}));
+        timeline.waitForLoad();
+        QVERIFY(timeline.loaded());
+    }
+};
+
+void screenshots(QuickScreen& screen, const QString& state) {
+    for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+        screen.setColorScheme(scheme);
+        QVERIFY(screen.saveScreenshot(QStringLiteral("timeline"), state));
+    }
+    screen.setColorScheme(ColorScheme::light);
+}
+
+QVariant rowValue(ValueListModelBase* model, int row, const char* role) {
+    const int key = model->roleNames().key(role);
+    return model->data(model->index(row), key);
+}
+
+bool visible(QuickScreen& screen, const QString& objectName) {
+    const QQuickItem* item = screen.find(objectName);
+    return item && item->isVisible();
+}
+
+// Scrolls the list so that row `index` has a delegate.
+void showRow(QuickScreen& screen, int index) {
+    QMetaObject::invokeMethod(screen.find("activityList"), "positionViewAtIndex", Q_ARG(int, index),
+                              Q_ARG(int, 1));
+}
+
+int rowWhere(ValueListModelBase* model, const char* role, const QString& text) {
+    for (int i = 0; i < model->rowCount(); ++i)
+        if (rowValue(model, i, role).toString().contains(text))
+            return i;
+    return -1;
+}
+
+}  // namespace
+
+class TimelineViewTest : public QObject {
+    Q_OBJECT
+private slots:
+    void busyDayAsCanvasAndList() {
+        test::ScopedTimeZone zone{"UTC"};
+        BusyDay day;
+        day.fill();
+        QuickScreen screen;
+        day.load(screen);
+        QVERIFY(screen.text("summaryText").contains(QStringLiteral(" tracked \u00B7 ")));
+        QVERIFY(day.timeline.header().canStepForward);
+
+        // The canvas opens at the first activity and holds items only near the visible rows.
+        auto* chapters = day.timeline.chapters();
+        QVERIFY(chapters->rowCount() > 0);
+        const double firstY = rowValue(chapters, 0, "frameY").toDouble();
+        QVERIFY(firstY >= 600 && firstY < 1400);
+        QCOMPARE(screen.find("canvas")->property("contentY").toDouble(), 600.0);
+        QVERIFY(!screen.find("nowLine")->isVisible());
+        screenshots(screen, "canvas");
+
+        const int box = rowWhere(chapters, "isIdle", "false");
+        const QString boxName = "chapter-" + rowValue(chapters, box, "chapterID").toString();
+        QVERIFY(screen.press(boxName));
+        QTRY_VERIFY(screen.find("detailPanel")->width() > 289);
+        QCOMPARE(screen.text("detailValue-Start").isEmpty(), false);
+        QVERIFY(day.timeline.panel().isChapter);
+        screenshots(screen, "chapter-panel");
+
+        // Each mode keeps its own selection.
+        QVERIFY(screen.press("listMode"));
+        QVERIFY(!day.timeline.panel().shown);
+        QTRY_VERIFY(!screen.find("detailPanel")->isVisible());
+        auto* rows = day.timeline.rows();
+        QVERIFY(rows->rowCount() > 100 && rows->rowCount() < 299);
+        const int late = rowWhere(rows, "title", "Late film");
+        QCOMPARE(rowValue(rows, late, "timeText").toString(), QStringLiteral("23:50 \u2013 00:10"));
+        const int open = rowWhere(rows, "title", "kitty");
+        QCOMPARE(rowValue(rows, open, "duration").toString(), QStringLiteral("0s"));
+        QCOMPARE(rowValue(rows, open, "timeText").toString(), QStringLiteral("20:00 \u2013 20:00"));
+        QVERIFY(rowValue(rows, rowWhere(rows, "title", "Mystery"), "pending").toBool());
+        const int merged = rowWhere(rows, "title", "main.cpp");
+        QVERIFY(rowValue(rows, merged, "visits").toInt() > 1);
+        screenshots(screen, "list");
+
+        showRow(screen, merged);
+        QVERIFY(screen.press("row" + QString::number(merged)));
+        QTRY_VERIFY(screen.find("detailPanel")->width() > 289);
+        QVERIFY(screen.text("panelListTitle").contains(QStringLiteral(" visits \u00B7 ")));
+        screenshots(screen, "block-panel");
+        QVERIFY(screen.press("timelineMode"));
+        QVERIFY(day.timeline.panel().isChapter);
+        QVERIFY(screen.press("listMode"));
+
+        // Deleting another row leaves the panel; Delete on the selected one removes its longest
+        // visit alone and closes it.
+        const int visits = rowValue(rows, merged, "visits").toInt();
+        day.timeline.deleteRow(rowValue(rows, merged + 1, "blockID").toDouble());
+        day.timeline.waitForLoad();
+        QVERIFY(day.timeline.panel().shown);
+        QTest::keyClick(screen.window(), Qt::Key_Delete);
+        QVERIFY(!day.timeline.panel().shown);
+        day.timeline.waitForLoad();
+        QCOMPARE(rowValue(rows, rowWhere(rows, "title", "main.cpp"), "visits").toInt(), visits - 1);
+
+        // ← a day back clears and loads an empty day; → comes back; Home goes to today.
+        QTest::keyClick(screen.window(), Qt::Key_Left);
+        day.timeline.waitForLoad();
+        QCOMPARE(rows->rowCount(), 0);
+        QTest::keyClick(screen.window(), Qt::Key_Right);
+        day.timeline.waitForLoad();
+        QVERIFY(rows->rowCount() > 100);
+        QTest::keyClick(screen.window(), Qt::Key_Home);
+        day.timeline.waitForLoad();
+        QVERIFY(!day.timeline.header().canStepForward);
+        QVERIFY(!screen.find("nextDay")->isEnabled());
+    }
+
+    void sheetsWriteWhatWasTyped() {
+        test::ScopedTimeZone zone{"UTC"};
+        BusyDay day;
+        day.fill();
+        QuickScreen screen;
+        day.load(screen);
+        QVERIFY(screen.press("listMode"));
+        auto* rows = day.timeline.rows();
+        const int pending = rowWhere(rows, "title", "Mystery");
+        showRow(screen, pending);
+        QVERIFY(screen.press("editRow" + QString::number(pending)));
+        QTRY_VERIFY(visible(screen, "editSheetSave"));
+        QCOMPARE(day.timeline.sheet().categoryID, 21.0);  // uncategorised opens on "Other"
+        QCOMPARE(screen.text("sheetDuration"), QStringLiteral("3m"));
+        screenshots(screen, "edit-sheet");
+        day.timeline.setSheetMinute(1, 0);  // 13:00, the start: nothing to save
+        QCOMPARE(screen.text("sheetDuration"), QStringLiteral("\u2014"));
+        QVERIFY(!screen.find("editSheetSave")->isEnabled());
+        QVERIFY(day.timeline.setSheetTimeText(1, "13:37"));
+        QVERIFY(!day.timeline.setSheetTimeText(0, "14:00"));  // past the end
+        QVERIFY(screen.press("editCategory-Research"));
+        day.timeline.setSheetNotes("checked with Ana");
+        QVERIFY(screen.press("editSheetSave"));
+        QTRY_VERIFY(!visible(screen, "editSheetSave"));
+        const auto stored = day.db.fetchActivities(at(13, 0), at(13, 0));
+        QCOMPARE(stored.size(), std::size_t{1});
+        QCOMPARE(stored[0].durationSeconds, 37 * 60);
+        QCOMPARE(stored[0].categoryID, std::optional<std::int64_t>(11));
+        QVERIFY(stored[0].isApproved && !stored[0].needsApproval);
+        QCOMPARE(stored[0].notes, std::optional<std::string>("checked with Ana"));
+
+        // A manual entry: a preset from the end, the title typed, "Away / Break" never offered.
+        QVERIFY(screen.press("addManual"));
+        QTRY_VERIFY(visible(screen, "manualSheetSave"));
+        QVERIFY(!screen.find("manualCategory-Away / Break"));
+        QCOMPARE(screen.text("sheetDuration"), QStringLiteral("1h 0m"));
+        screenshots(screen, "manual-sheet");
+        QVERIFY(screen.press("preset2"));
+        QCOMPARE(screen.text("sheetDuration"), QStringLiteral("30m"));
+        day.timeline.setSheetTitle("Reading: Clean Code \U0001F4D6");
+        // A read-only store refuses the row: the sheet stays with what was typed.
+        day.db.exec("PRAGMA query_only = 1");
+        QTest::keyClick(screen.window(), Qt::Key_Return);
+        QVERIFY(visible(screen, "manualSheetSave"));
+        day.db.exec("PRAGMA query_only = 0");
+        QVERIFY(screen.press("manualSheetSave"));
+        QTRY_VERIFY(!visible(screen, "manualSheetSave"));
+        const auto manual = day.db.fetchActivities(day.clock.now() - 1800, day.clock.now() - 1800);
+        QCOMPARE(manual.size(), std::size_t{1});
+        QCOMPARE(manual[0].appName, std::string("Reading: Clean Code \U0001F4D6"));
+        QCOMPARE(manual[0].categoryID, std::optional<std::int64_t>(category_id::learning));
+        QVERIFY(manual[0].isManual && !manual[0].notes);
+    }
+
+    void emptyDayWithAndWithoutFilter() {
+        test::DashboardRig rig;
+        rig.dashboard.loadCategories();
+        rig.db.insertActivity(ActivityBuilder(-1, rig.clock.now() - 3600, 40).app("Code").category(1));
+        TimelineController& timeline = *rig.screens.timeline();
+        QuickScreen screen;
+        QVERIFY(screen.load("TimelineView", {{"controller", QVariant::fromValue(&timeline)}}, {1100, 740}));
+        timeline.waitForLoad();
+        QVERIFY(screen.find("nowLine")->isVisible());
+        screenshots(screen, "today-canvas");
+        timeline.setListMode(true);
+        QVERIFY(screen.press("filter->5m"));
+        timeline.waitForLoad();
+        QVERIFY(screen.find("emptyState")->isVisible() && screen.find("showAll")->isVisible());
+        screenshots(screen, "empty-filtered");
+        QVERIFY(screen.press("showAll"));
+        timeline.waitForLoad();
+        QCOMPARE(timeline.rows()->rowCount(), 1);
+        timeline.previousDay();
+        timeline.waitForLoad();
+        QVERIFY(screen.find("emptyState")->isVisible() && !screen.find("showAll")->isVisible());
+        QCOMPARE(screen.text("summaryText"), QStringLiteral("0s tracked \u00B7 0% productive"));
+        screenshots(screen, "empty");
+    }
+};
+
+QTEST_MAIN(TimelineViewTest)
+#include "TimelineViewTest.moc"
