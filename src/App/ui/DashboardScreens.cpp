@@ -4,8 +4,7 @@ namespace larkspan {
 
 DashboardScreens::DashboardScreens(const DashboardServices& services, DashboardController& dashboard,
                                    QObject* parent)
-    : QObject(parent) {
-    static_cast<void>(services);
+    : QObject(parent), analytics_(services.database, services.clock) {
     static_cast<void>(dashboard);
 }
 

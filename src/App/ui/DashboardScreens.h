@@ -6,6 +6,7 @@
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
 
+#include "Analytics/ui/AnalyticsController.h"
 #include "App/ui/DashboardController.h"
 #include "Focus/PomodoroTimer.h"
 
@@ -24,10 +25,17 @@ class DashboardScreens final : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("The dashboard window makes its screens.")
 
+    Q_PROPERTY(larkspan::AnalyticsController* analytics READ analytics CONSTANT)
+
 public:
     // `dashboard` holds what the screens share: the selected date and the categories.
     DashboardScreens(const DashboardServices& services, DashboardController& dashboard,
                      QObject* parent = nullptr);
+
+    AnalyticsController* analytics() { return &analytics_; }
+
+private:
+    AnalyticsController analytics_;
 };
 
 }  // namespace larkspan
