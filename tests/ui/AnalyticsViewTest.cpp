@@ -166,6 +166,7 @@ private slots:
         QCOMPARE(tiles, (QStringList{"0m", "0m \u00B7 0%", "\U0001F345 0", "0", "0"}));
         QVERIFY(screen.find("patternEmpty")->isVisible() && screen.find("sessionsEmpty")->isVisible());
         QVERIFY(!screen.find("topWebsites")->isVisible());
+        screen.grab();  // lays the row out anew
         QCOMPARE(screen.find("categoryBreakdown")->width(), screen.find("appBreakdown")->width());
         for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
             screen.setColorScheme(scheme);

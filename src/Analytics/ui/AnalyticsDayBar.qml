@@ -44,6 +44,7 @@ RowLayout {
     }
     DayButton {
         objectName: "todayButton"
+        flat: false
         enabled: dayBar.controller.header.canStepForward
         text: dayBar.controller.labels.today
         Accessible.name: text

@@ -84,11 +84,11 @@ struct AnalyticsTileItem {
     Q_PROPERTY(QString label MEMBER label)
     Q_PROPERTY(QString value MEMBER value)
     Q_PROPERTY(QString symbol MEMBER symbol)
-    Q_PROPERTY(QColor color MEMBER color)
+    Q_PROPERTY(QColor tone MEMBER tone)
     Q_PROPERTY(QString spoken MEMBER spoken)
 public:
     QString key, label, value, symbol;
-    QColor color;
+    QColor tone;
     QString spoken;
 };
 

@@ -32,6 +32,8 @@ TabBar {
             objectName: "range-" + modelData
             text: modelData
             implicitHeight: 28
+            leftPadding: 4
+            rightPadding: 4
             focusPolicy: Qt.StrongFocus
             Accessible.name: modelData
             Accessible.onPressAction: clicked()

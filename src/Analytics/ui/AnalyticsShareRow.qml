@@ -4,7 +4,8 @@ import QtQuick.Layouts
 import Larkspan
 
 // One row of a breakdown: an emoji or a symbol, the name on one line, its share as a bar on a faint
-// track, and its time. A row of one of the controller's breakdown models.
+// track, and its time. A row of one of the controller's breakdown models, in an AnalyticsRows column
+// whose width the card gives it.
 RowLayout {
     id: row
 
@@ -17,13 +18,12 @@ RowLayout {
     required property string spoken
 
     // Set by the card: the symbol drawn instead of an emoji, the bar's colour, height and the name's
-    // column width (0: a share of the row).
+    // column width.
     property string symbol
     property color fill: row.color
     property real barHeight: 6
-    property real nameWidth: 0
+    property real nameWidth: 120
 
-    Layout.fillWidth: true
     spacing: Theme.spacing
     Accessible.role: Accessible.StaticText
     Accessible.name: spoken
@@ -50,8 +50,8 @@ RowLayout {
         maximumLineCount: 1
         font.pixelSize: Theme.fontSmall
         color: Theme.primaryText
-        Layout.preferredWidth: row.nameWidth > 0 ? row.nameWidth : Math.round(row.width * 0.34)
-        Layout.maximumWidth: Layout.preferredWidth
+        Layout.preferredWidth: row.nameWidth
+        Layout.maximumWidth: row.nameWidth
         Accessible.ignored: true
     }
     Item {
@@ -75,7 +75,8 @@ RowLayout {
         color: Theme.secondaryText
         font.pixelSize: Theme.fontCaption
         horizontalAlignment: Text.AlignRight
-        Layout.preferredWidth: 52
+        // Room for "189h 12m" and more, so a long period never pushes into the bar.
+        Layout.preferredWidth: Math.max(58, implicitWidth)
         Accessible.ignored: true
     }
 }

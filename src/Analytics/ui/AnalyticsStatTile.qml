@@ -12,7 +12,7 @@ Rectangle {
     required property string label
     required property string value
     required property string symbol
-    required property color color
+    required property color tone
     required property string spoken
 
     objectName: "tile" + index
@@ -20,7 +20,7 @@ Rectangle {
     Layout.preferredWidth: 1
     implicitHeight: 92
     radius: 10
-    color: Theme.tint(tile.color, 0.08)
+    color: Theme.tint(tile.tone, 0.08)
     Accessible.role: Accessible.StaticText
     Accessible.name: spoken
 
@@ -31,7 +31,7 @@ Rectangle {
 
         SymbolIcon {
             name: tile.symbol
-            color: tile.color
+            color: tile.tone
             size: 18
         }
         Label {

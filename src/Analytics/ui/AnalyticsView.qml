@@ -7,10 +7,13 @@ import Larkspan
 // selector (and the day bar for `day`), the five tiles, the daily chart, the productivity pattern, the
 // focus sessions, the category and website breakdowns side by side, and the applications. It loads
 // when it appears; ← and → step the day and Home goes to today while the range is `day`.
-Item {
+Rectangle {
     id: root
 
     required property AnalyticsController controller
+
+    // The cards stand out in the control background colour.
+    color: palette.window
 
     Component.onCompleted: controller.load()
 
@@ -151,57 +154,60 @@ Item {
                         visible: root.controller.sections.sessionsEmpty
                         text: root.controller.labels.noSessions
                     }
-                    Repeater {
-                        model: root.controller.sessions
+                    AnalyticsRows {
+                        id: sessionRows
+                        Repeater {
+                            model: root.controller.sessions
 
-                        ColumnLayout {
-                            id: session
-                            required property int index
-                            required property int place
-                            required property string startText
-                            required property string endText
-                            required property string duration
-                            required property bool last
-                            required property string spoken
+                            ColumnLayout {
+                                id: session
+                                required property int index
+                                required property int place
+                                required property string startText
+                                required property string endText
+                                required property string duration
+                                required property bool last
+                                required property string spoken
 
-                            objectName: "session" + index
-                            Layout.fillWidth: true
-                            spacing: Theme.spacing
-                            Accessible.role: Accessible.StaticText
-                            Accessible.name: spoken
+                                objectName: "session" + index
+                                width: sessionRows.width
+                                spacing: Theme.spacing
+                                Accessible.role: Accessible.StaticText
+                                Accessible.name: spoken
 
-                            RowLayout {
-                                Layout.fillWidth: true
-                                spacing: Theme.spacingLarge
-                                Label {
-                                    text: session.place
-                                    color: Theme.secondaryText
-                                    font.pixelSize: Theme.fontSmall
-                                    horizontalAlignment: Text.AlignRight
-                                    Layout.preferredWidth: 16
-                                }
-                                Rectangle {
-                                    implicitWidth: 8
-                                    implicitHeight: 8
-                                    radius: 4
-                                    color: Theme.tint(Theme.purple, 0.6)
-                                }
-                                Label {
+                                RowLayout {
                                     Layout.fillWidth: true
-                                    text: session.startText + "  →  " + session.endText
-                                    color: Theme.primaryText
-                                    font.pixelSize: Theme.fontBody
-                                    elide: Text.ElideRight
+                                    spacing: Theme.spacingLarge
+                                    Label {
+                                        text: session.place
+                                        color: Theme.secondaryText
+                                        font.pixelSize: Theme.fontSmall
+                                        horizontalAlignment: Text.AlignRight
+                                        Layout.preferredWidth: 16
+                                    }
+                                    Rectangle {
+                                        implicitWidth: 8
+                                        implicitHeight: 8
+                                        radius: 4
+                                        color: Theme.tint(Theme.purple, 0.6)
+                                    }
+                                    Label {
+                                        Layout.fillWidth: true
+                                        text: session.startText + "  →  " + session.endText
+                                        color: Theme.primaryText
+                                        font.pixelSize: Theme.fontBody
+                                        elide: Text.ElideRight
+                                    }
+                                    Label {
+                                        text: session.duration
+                                        color: Theme.purple
+                                        font.pixelSize: Theme.fontBody
+                                        font.weight: Font.DemiBold
+                                    }
                                 }
-                                Label {
-                                    text: session.duration
-                                    color: Theme.purple
-                                    font.pixelSize: Theme.fontBody
-                                    font.weight: Font.DemiBold
+                                Divider {
+                                    visible: !session.last
                                 }
-                            }
-                            Divider {
-                                visible: !session.last
                             }
                         }
                     }
@@ -228,9 +234,14 @@ Item {
                             visible: root.controller.sections.categoriesEmpty
                             text: root.controller.labels.noData
                         }
-                        Repeater {
-                            model: root.controller.categories
-                            AnalyticsShareRow {}
+                        AnalyticsRows {
+                            id: categoryRows
+                            Repeater {
+                                model: root.controller.categories
+                                AnalyticsShareRow {
+                                    width: categoryRows.width
+                                }
+                            }
                         }
                     }
                     AnalyticsCard {
@@ -240,11 +251,15 @@ Item {
                         visible: root.controller.sections.websites
                         title: root.controller.labels.websitesTitle
 
-                        Repeater {
-                            model: root.controller.websites
-                            AnalyticsShareRow {
-                                symbol: "globe"
-                                fill: Theme.tint(palette.highlight, 0.65)
+                        AnalyticsRows {
+                            id: websiteRows
+                            Repeater {
+                                model: root.controller.websites
+                                AnalyticsShareRow {
+                                    width: websiteRows.width
+                                    symbol: "globe"
+                                    fill: Theme.tint(palette.highlight, 0.65)
+                                }
                             }
                         }
                     }
@@ -258,12 +273,16 @@ Item {
                         visible: root.controller.sections.applicationsEmpty
                         text: root.controller.labels.noDataForPeriod
                     }
-                    Repeater {
-                        model: root.controller.applications
-                        AnalyticsShareRow {
-                            nameWidth: 140
-                            barHeight: 8
-                            fill: Theme.tint(palette.highlight, 0.7)
+                    AnalyticsRows {
+                        id: applicationRows
+                        Repeater {
+                            model: root.controller.applications
+                            AnalyticsShareRow {
+                                width: applicationRows.width
+                                nameWidth: 140
+                                barHeight: 8
+                                fill: Theme.tint(palette.highlight, 0.7)
+                            }
                         }
                     }
                 }
