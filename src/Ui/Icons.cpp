@@ -29,6 +29,7 @@ constexpr Symbol symbols[] = {
     {"chevron.right", "go-next"},
     {"circle", "radio"},
     {"circle.fill", "media-record"},
+    {"clock", "preferences-system-time"},
     {"clock.badge.questionmark", "appointment-missed"},
     {"clock.fill", "appointment-soon"},
     {"exclamationmark.circle.fill", "dialog-warning"},

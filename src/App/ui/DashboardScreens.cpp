@@ -6,6 +6,7 @@ DashboardScreens::DashboardScreens(const DashboardServices& services, DashboardC
                                    QObject* parent)
     : QObject(parent),
       focus_(services.database, services.pomodoroTimer, services.clock, this),
-      timeline_(services.database, dashboard, services.clock, this) {}
+      timeline_(services.database, dashboard, services.clock, this),
+      analytics_(services.database, services.clock) {}
 
 }  // namespace larkspan

@@ -6,6 +6,7 @@
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
 
+#include "Analytics/ui/AnalyticsController.h"
 #include "App/ui/DashboardController.h"
 #include "Focus/PomodoroTimer.h"
 #include "Focus/ui/FocusController.h"
@@ -27,6 +28,7 @@ class DashboardScreens final : public QObject {
     QML_UNCREATABLE("The dashboard window makes its screens.")
     Q_PROPERTY(larkspan::FocusController* focus READ focus CONSTANT)
     Q_PROPERTY(larkspan::TimelineController* timeline READ timeline CONSTANT)
+    Q_PROPERTY(larkspan::AnalyticsController* analytics READ analytics CONSTANT)
 
 public:
     // `dashboard` holds what the screens share: the selected date and the categories.
@@ -35,10 +37,12 @@ public:
 
     FocusController* focus() { return &focus_; }
     TimelineController* timeline() { return &timeline_; }
+    AnalyticsController* analytics() { return &analytics_; }
 
 private:
     FocusController focus_;
     TimelineController timeline_;
+    AnalyticsController analytics_;
 };
 
 }  // namespace larkspan

@@ -108,6 +108,7 @@ Rectangle {
             sourceComponent: ({
                 "Timeline": timelineScreen,
                 "Focus": focusScreen,
+                "Analytics": analyticsScreen,
             })[root.controller.shownTab] ?? comingSoon
 
             Component {
@@ -123,6 +124,14 @@ Rectangle {
 
                 FocusView {
                     controller: root.screens.focus
+                }
+            }
+
+            Component {
+                id: analyticsScreen
+
+                AnalyticsView {
+                    controller: root.screens.analytics
                 }
             }
 

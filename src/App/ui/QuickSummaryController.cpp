@@ -10,7 +10,6 @@
 #include "App/QuickSummary.h"
 #include "Classification/Palette.h"
 #include "Platform/LocalDay.h"
-#include "Ui/LocalTime.h"
 #include "Ui/QtConversion.h"
 
 namespace larkspan {

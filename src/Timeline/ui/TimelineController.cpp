@@ -9,7 +9,6 @@
 #include "Classification/Palette.h"
 #include "Platform/LocalDay.h"
 #include "Timeline/TimelineLabels.h"
-#include "Ui/LocalTime.h"
 #include "Ui/QtConversion.h"
 
 namespace larkspan {
