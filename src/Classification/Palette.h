@@ -40,7 +40,9 @@ struct Palette {
     static constexpr double tilePressed = 0.3;  // also a tile's edge
     static constexpr double buttonWash = 0.16;  // a round button in its colour
     static constexpr double buttonPressed = 0.28;
-    static constexpr double pressedFill = 0.75;  // a filled button while held
+    static constexpr double pressedFill = 0.75;    // a filled button while held
+    static constexpr double suggestedFill = 0.25;  // the suggested category's tile
+    static constexpr double suggestedEdge = 0.5;   // and its edge
     // Of white on a colour:
     static constexpr double onColorSecondary = 0.8;
     static constexpr double onColorTertiary = 0.6;

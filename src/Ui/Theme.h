@@ -47,6 +47,8 @@ class Theme final : public QObject {
     Q_PROPERTY(double buttonWash MEMBER buttonWash CONSTANT)
     Q_PROPERTY(double buttonPressed MEMBER buttonPressed CONSTANT)
     Q_PROPERTY(double pressedFill MEMBER pressedFill CONSTANT)
+    Q_PROPERTY(double suggestedFill MEMBER suggestedFill CONSTANT)
+    Q_PROPERTY(double suggestedEdge MEMBER suggestedEdge CONSTANT)
 
     // Pixels between items in a row or column, small to large, and a section's inner margin.
     Q_PROPERTY(int spacingSmall MEMBER spacingSmall CONSTANT)
@@ -97,6 +99,8 @@ public:
     const double buttonWash = Palette::buttonWash;
     const double buttonPressed = Palette::buttonPressed;
     const double pressedFill = Palette::pressedFill;
+    const double suggestedFill = Palette::suggestedFill;
+    const double suggestedEdge = Palette::suggestedEdge;
 
     const int spacingSmall = 6;
     const int spacing = 8;

@@ -4,9 +4,8 @@ namespace larkspan {
 
 DashboardScreens::DashboardScreens(const DashboardServices& services, DashboardController& dashboard,
                                    QObject* parent)
-    : QObject(parent) {
-    static_cast<void>(services);
-    static_cast<void>(dashboard);
-}
+    : QObject(parent),
+      review_(services.database, services.sessionManager, dashboard),
+      settings_(services.database, services.sessionManager, dashboard, services.clock) {}
 
 }  // namespace larkspan

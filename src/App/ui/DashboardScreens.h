@@ -7,7 +7,9 @@
 #include <QObject>
 
 #include "App/ui/DashboardController.h"
+#include "Classification/ui/SettingsController.h"
 #include "Focus/PomodoroTimer.h"
+#include "Review/ui/PendingReviewController.h"
 
 namespace larkspan {
 
@@ -23,11 +25,20 @@ class DashboardScreens final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The dashboard window makes its screens.")
+    Q_PROPERTY(larkspan::PendingReviewController* review READ review CONSTANT)
+    Q_PROPERTY(larkspan::SettingsController* settings READ settings CONSTANT)
 
 public:
     // `dashboard` holds what the screens share: the selected date and the categories.
     DashboardScreens(const DashboardServices& services, DashboardController& dashboard,
                      QObject* parent = nullptr);
+
+    PendingReviewController* review() { return &review_; }
+    SettingsController* settings() { return &settings_; }
+
+private:
+    PendingReviewController review_;
+    SettingsController settings_;
 };
 
 }  // namespace larkspan

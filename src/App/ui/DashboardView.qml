@@ -106,8 +106,24 @@ Rectangle {
             // Each screen adds its tab's label and component here. (A switch in a binding hangs the
             // compiled QML of Qt 6.4.)
             sourceComponent: ({
+                "Review": reviewScreen,
+                "Settings": settingsScreen,
             })[root.controller.shownTab] ?? comingSoon
 
+            Component {
+                id: reviewScreen
+
+                PendingReviewView {
+                    controller: root.screens.review
+                }
+            }
+            Component {
+                id: settingsScreen
+
+                SettingsView {
+                    controller: root.screens.settings
+                }
+            }
             Component {
                 id: comingSoon
 

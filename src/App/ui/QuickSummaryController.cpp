@@ -4,7 +4,6 @@
 #include <QDateTime>
 #include <QLocale>
 #include <QPointer>
-#include <QRegularExpression>
 #include <QThreadPool>
 #include <algorithm>
 
@@ -18,17 +17,6 @@ namespace larkspan {
 namespace {
 
 constexpr int kRefreshMilliseconds = 30'000;
-
-QDateTime localDateTime(Date instant) {
-    return QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(instant * 1000));
-}
-
-// The locale's short time style, hours and minutes: the C locale's short style carries seconds.
-QString shortTimeFormat(const QLocale& locale) {
-    QString format = locale.timeFormat(QLocale::ShortFormat);
-    format.remove(QRegularExpression(QStringLiteral("[:.]ss?")));
-    return format;
-}
 
 // Assigns `next` and says whether that changed anything.
 template <class Item>
