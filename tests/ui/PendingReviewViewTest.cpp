@@ -15,11 +15,12 @@ struct Review {
     QuickScreen screen;
 
     Review() { rig.dashboard.loadCategories(); }
-    std::int64_t add(int i, std::optional<std::int64_t> category, std::string title = "Quarterly plan") {
+    std::int64_t add(int i, std::optional<std::int64_t> category, std::string title = "Quarterly plan",
+                     std::optional<std::string> domain = "docs.example.org") {
         return rig.db.insertActivity(test::ActivityBuilder(0, rig.clock.now() - 600.0 * (i + 1), 65 + 60 * i)
                                          .app("Firefox", "org.mozilla.firefox")
                                          .title(std::move(title))
-                                         .domain("docs.example.org")
+                                         .domain(std::move(domain))
                                          .category(category)
                                          .pending(0.4));
     }
@@ -28,6 +29,7 @@ struct Review {
         const bool loaded =
             screen.load("PendingReviewView", {{"controller", QVariant::fromValue(controller)}}, {900, 700});
         controller->waitForLoad();
+        screen.grab();  // lays the cards out
         return loaded;
     }
     void photograph(const char* state) {
@@ -57,7 +59,7 @@ private slots:
             0, category_id::coding,
             "\u05de\u05e1\u05de\u05da \u05d0\u05e8\u05d5\u05da \U0001F680 " + std::string(300, 'w'));
         const auto second = review.add(1, category_id::awayBreak);
-        review.add(2, std::nullopt);
+        const auto third = review.add(2, std::nullopt);
         QVERIFY(review.show());
         QCOMPARE(review.screen.find("cardList")->property("count").toInt(), 3);
         QVERIFY(review.screen.text("cardMeta").startsWith(QStringLiteral("Firefox  \u00b7  ")));
@@ -75,10 +77,9 @@ private slots:
         review.rig.screens.review()->waitForLoad();
         QTRY_COMPARE(review.screen.find("cardList")->property("count").toInt(), 2);
 
-        QVERIFY(review.screen.focusByKeyboard("skip"));
-        QTest::keyClick(review.screen.window(), Qt::Key_Space);
-        QCOMPARE(review.rig.db.fetchActivity(second)->categoryID, category_id::awayBreak);
-        QVERIFY(review.rig.db.fetchActivity(second)->isApproved);
+        // The faded card may linger in the tree: the first card now is the next one.
+        QVERIFY(QMetaObject::invokeMethod(findItem(review.screen.find("card-0"), "skip"), "clicked"));
+        QCOMPARE(review.rig.db.pendingApprovalCount(), 1);
 
         const auto rules = review.rig.db.fetchLearnedRules();
         QVERIFY(review.screen.press("approveAll"));
@@ -86,6 +87,9 @@ private slots:
         QTRY_VERIFY(review.screen.find("caughtUp")->isVisible());
         QCOMPARE(review.rig.db.pendingApprovalCount(), 0);
         QCOMPARE(review.rig.db.fetchLearnedRules(), rules);
+        // Each kept its suggestion, or "Other" without one; an "Away / Break" one too.
+        QCOMPARE(review.rig.db.fetchActivity(second)->categoryID, category_id::awayBreak);
+        QCOMPARE(review.rig.db.fetchActivity(third)->categoryID, category_id::other);
     }
 
     void aFullListShowsTheNewestHundred() {

@@ -20,7 +20,7 @@ struct Settings {
         QVERIFY(screen.load("SettingsView", {{"controller", QVariant::fromValue(&controller)}}, {820, 900}));
     }
     bool sheetOpen(const char* name) const {
-        auto* popup = screen.window()->contentItem()->findChild<QObject*>(name);
+        auto* popup = screen.root()->findChild<QObject*>(name);
         return popup && popup->property("opened").toBool();
     }
     void photograph(const char* state) {
@@ -68,7 +68,7 @@ private slots:
         s.controller.setNewName("Coding");
         QVERIFY(s.screen.press("addCategory"));
         QTRY_VERIFY(s.sheetOpen("newCategorySheet"));
-        QVERIFY(s.screen.press("add"));
+        QTest::keyClick(s.screen.window(), Qt::Key_Return);
         QVERIFY(s.sheetOpen("newCategorySheet"));
         QCOMPARE(s.controller.categories()->count(), 22);
         QTest::keyClick(s.screen.window(), Qt::Key_Escape);

@@ -19,14 +19,12 @@ Popup {
     width: 420
     padding: 20
     closePolicy: Popup.CloseOnEscape
-    Accessible.role: Accessible.Dialog
-    Accessible.name: "Edit Category"
 
     // Opens the sheet for the category of `row`.
     function edit(row) {
         categoryID = row.categoryID
         form.name = row.name
-        form.icon = row.icon
+        form.icon = row.emoji
         form.productivity = row.productivity
         open()
     }
@@ -41,6 +39,8 @@ Popup {
     ColumnLayout {
         anchors.fill: parent
         spacing: Theme.margin
+        Accessible.role: Accessible.Dialog
+        Accessible.name: "Edit Category"
 
         Text {
             text: "Edit Category"

@@ -17,8 +17,6 @@ Popup {
     width: 420
     padding: 20
     closePolicy: Popup.CloseOnEscape
-    Accessible.role: Accessible.Dialog
-    Accessible.name: "New Category"
 
     onOpened: form.focusName()
 
@@ -30,6 +28,8 @@ Popup {
     ColumnLayout {
         anchors.fill: parent
         spacing: Theme.margin
+        Accessible.role: Accessible.Dialog
+        Accessible.name: "New Category"
 
         Text {
             text: "New Category"

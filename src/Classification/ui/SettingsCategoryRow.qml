@@ -11,7 +11,7 @@ ItemDelegate {
     required property int index
     required property var categoryID
     required property string name
-    required property string icon
+    required property string emoji
     required property int productivity
     required property string badgeText
     required property color badgeColor
@@ -34,7 +34,7 @@ ItemDelegate {
         spacing: Theme.spacingLarge
 
         Text {
-            text: row.icon
+            text: row.emoji
             textFormat: Text.PlainText
             font.family: Theme.emojiFont
             font.pixelSize: 16

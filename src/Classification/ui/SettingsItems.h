@@ -13,7 +13,7 @@ struct CategoryRow {
     Q_GADGET
     Q_PROPERTY(qint64 categoryID MEMBER key)
     Q_PROPERTY(QString name MEMBER name)
-    Q_PROPERTY(QString icon MEMBER icon)
+    Q_PROPERTY(QString emoji MEMBER icon)
     Q_PROPERTY(int productivity MEMBER productivity)  // the stored value: 1, 0 or -1
     Q_PROPERTY(QString badgeText MEMBER badgeText)
     Q_PROPERTY(QColor badgeColor MEMBER badgeColor)

@@ -113,7 +113,6 @@ Item {
             clip: true
             spacing: Theme.spacingLarge
             model: root.controller.cards
-            reuseItems: true
             boundsBehavior: Flickable.StopAtBounds
             ScrollBar.vertical: ScrollBar {}
             Accessible.role: Accessible.List
