@@ -57,7 +57,7 @@ private slots:
         Review review;
         const auto first = review.add(
             0, category_id::coding,
-            "\u05de\u05e1\u05de\u05da \u05d0\u05e8\u05d5\u05da \U0001F680 " + std::string(300, 'w'));
+            "\u05de\u05e1\u05de\u05da \u05d0\u05e8\u05d5\u05da \U0001F680 " + std::string(300, 'w'), std::nullopt);
         const auto second = review.add(1, category_id::awayBreak);
         const auto third = review.add(2, std::nullopt);
         QVERIFY(review.show());

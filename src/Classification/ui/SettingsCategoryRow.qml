@@ -97,14 +97,13 @@ ItemDelegate {
         color: row.hovered || row.visualFocus ? Theme.hover : "transparent"
         radius: 10
         Rectangle {
-            anchors.bottom: parent.bottom
+            anchors.top: parent.top
             anchors.left: parent.left
             anchors.leftMargin: Theme.margin
             anchors.right: parent.right
             height: 1
             visible: row.index > 0
             color: Theme.separator
-            y: 0
         }
     }
 }

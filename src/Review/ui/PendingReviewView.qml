@@ -47,6 +47,11 @@ Item {
                 objectName: "approveAll"
                 visible: root.controller.cards.count > 0
                 text: "Approve All as-is"
+                highlighted: true
+                leftPadding: 16
+                rightPadding: 16
+                topPadding: 8
+                bottomPadding: 8
                 Accessible.name: text
                 Accessible.description: "Keep the suggested category of every listed activity"
                 Accessible.onPressAction: clicked()
