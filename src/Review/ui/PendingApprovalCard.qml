@@ -50,6 +50,8 @@ Rectangle {
                 Label {
                     objectName: "cardTitle"
                     Layout.fillWidth: true
+                    // Every card's title starts at the same edge, whatever the script of its text.
+                    horizontalAlignment: Text.AlignLeft
                     text: card.title
                     textFormat: Text.PlainText
                     font.pixelSize: Theme.fontBody + 1
@@ -94,6 +96,8 @@ Rectangle {
             Button {
                 objectName: "skip"
                 Layout.alignment: Qt.AlignTop
+                // The label, not the button's edge, lines up with the grid's right edge.
+                Layout.rightMargin: -rightPadding
                 flat: true
                 text: "Skip"
                 font.pixelSize: Theme.fontSmall
