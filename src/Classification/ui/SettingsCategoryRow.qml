@@ -36,6 +36,8 @@ ItemDelegate {
         Text {
             text: row.emoji
             textFormat: Text.PlainText
+            // An icon typed as plain text, not an emoji, takes the text colour.
+            color: Theme.primaryText
             font.family: Theme.emojiFont
             font.pixelSize: 16
             Layout.preferredWidth: 24
