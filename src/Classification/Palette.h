@@ -40,11 +40,14 @@ struct Palette {
     static constexpr double tilePressed = 0.3;  // also a tile's edge
     static constexpr double buttonWash = 0.16;  // a round button in its colour
     static constexpr double buttonPressed = 0.28;
-    static constexpr double pressedFill = 0.75;  // a filled button while held
-    static constexpr double entryWash = 0.04;    // a line being typed into, in the accent
-    static constexpr double selectedRow = 0.06;  // the chosen row of a list, in the accent
-    static constexpr double hollowMark = 0.35;   // an empty dot or mark
-    static constexpr double badgeText = 0.7;     // a badge's text over a faint wash of its colour
+    static constexpr double pressedFill = 0.75;    // a filled button while held
+    static constexpr double entryWash = 0.04;      // a line being typed into, in the accent
+    static constexpr double selectedRow = 0.06;    // the chosen row of a list, in the accent
+    static constexpr double hollowMark = 0.35;     // an empty dot or mark
+    static constexpr double badgeText = 0.7;       // a badge's text over a faint wash of its colour
+    static constexpr double pressedFill = 0.75;    // a filled button while held
+    static constexpr double suggestedFill = 0.25;  // the suggested category's tile
+    static constexpr double suggestedEdge = 0.5;   // and its edge
     // Of white on a colour:
     static constexpr double onColorSecondary = 0.8;
     static constexpr double onColorTertiary = 0.6;

@@ -16,6 +16,7 @@ struct Symbol {
 };
 
 constexpr Symbol symbols[] = {
+    {"app.badge", "application-x-executable"},
     {"arrow.counterclockwise.circle", "edit-undo"},
     {"arrow.right", "go-next"},
     {"brain.head.profile", "applications-science"},

@@ -36,7 +36,7 @@ inline QColor toQColor(const Color& color, double opacity = 1.0) {
                             static_cast<float>(color.blue), static_cast<float>(opacity));
 }
 
-// An instant (seconds since 1970) in local time.
+// An instant (seconds since 1970) in the local time zone.
 inline QDateTime localDateTime(Date instant) {
     return QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(instant * 1000));
 }

@@ -51,6 +51,8 @@ class Theme final : public QObject {
     Q_PROPERTY(double selectedRow MEMBER selectedRow CONSTANT)
     Q_PROPERTY(double hollowMark MEMBER hollowMark CONSTANT)
     Q_PROPERTY(double badgeText MEMBER badgeText CONSTANT)
+    Q_PROPERTY(double suggestedFill MEMBER suggestedFill CONSTANT)
+    Q_PROPERTY(double suggestedEdge MEMBER suggestedEdge CONSTANT)
 
     // Pixels between items in a row or column, small to large, and a section's inner margin.
     Q_PROPERTY(int spacingSmall MEMBER spacingSmall CONSTANT)
@@ -105,6 +107,8 @@ public:
     const double selectedRow = Palette::selectedRow;
     const double hollowMark = Palette::hollowMark;
     const double badgeText = Palette::badgeText;
+    const double suggestedFill = Palette::suggestedFill;
+    const double suggestedEdge = Palette::suggestedEdge;
 
     const int spacingSmall = 6;
     const int spacing = 8;

@@ -120,7 +120,7 @@ for tab in Timeline Focus Calendar Analytics Settings; do
 done
 a11y press "page tab" "~^Review Activities"
 a11y has "page tab" "~^Review Activities" selected
-a11y has heading "Review"
+a11y has heading "Review Activities"
 
 # The accessibility bus going away leaves tracking as it was.
 a11y_bus=$(dbus-send --session --print-reply --dest=org.freedesktop.DBus / \

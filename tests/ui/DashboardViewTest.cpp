@@ -175,7 +175,7 @@ private slots:
         screen.grab();  // lays the sidebar out anew
         QVERIFY(screen.press("reviewButton"));
         QCOMPARE(controller.selectedTab(), QStringLiteral("Review"));
-        QCOMPARE(screen.text("detailTitle"), QStringLiteral("Review"));
+        QCOMPARE(screen.text("reviewHeading"), QStringLiteral("Review Activities"));
         QVERIFY(screen.find("reviewButton")->property("selected").toBool());
         QVERIFY(!screen.find("tab-Timeline")->property("selected").toBool());
         for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
@@ -188,7 +188,7 @@ private slots:
         // At 0 the button goes, and the review screen stays until another tab is chosen.
         tracker.manager->pendingApprovalCount.set(0);
         QVERIFY(!screen.find("reviewButton")->isVisible());
-        QCOMPARE(screen.text("detailTitle"), QStringLiteral("Review"));
+        QCOMPARE(screen.text("reviewHeading"), QStringLiteral("Review Activities"));
         // A calendar day opens the timeline on that day.
         controller.dayTapped(1'763'000'000);
         QVERIFY(screen.find("dateText"));

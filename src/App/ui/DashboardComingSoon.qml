@@ -42,17 +42,6 @@ Item {
             font.pixelSize: Theme.fontLargeTitle
             font.weight: Font.DemiBold
         }
-        StartAtLoginSwitch {
-            objectName: "startAtLogin"
-            Layout.fillWidth: true
-            visible: root.controller.shownTab === "Settings" && StartAtLoginController.available
-        }
-        BrowserBridgeStatus {
-            objectName: "browserBridgeStatus"
-            Layout.fillWidth: true
-            Layout.bottomMargin: 12
-            visible: root.controller.shownTab === "Settings"
-        }
         Label {
             objectName: "detailLine"
             Layout.fillWidth: true

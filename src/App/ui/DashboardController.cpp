@@ -23,7 +23,7 @@ DashboardController::DashboardController(Database& database, SessionManager& ses
     });
 }
 
-void DashboardController::recomputeSidebar() {
+void DashboardController::recomputeSidebar(bool categoriesMoved) {
     SidebarLiveCard card{false, {}, {}, {}, toQColor(Palette::grey)};
     if (const auto shown = liveSessionCard(session_, categories_))
         card = {true, toQString(shown->icon), toQString(shown->title), toQString(shown->status),
@@ -31,7 +31,7 @@ void DashboardController::recomputeSidebar() {
     SidebarReviewButton button;
     if (const auto shown = larkspan::reviewButton(pendingCount_))
         button = {true, toQString(shown->title), toQString(shown->detail)};
-    if (card == liveCard_ && button == reviewButton_)
+    if (!categoriesMoved && card == liveCard_ && button == reviewButton_)
         return;
     liveCard_ = std::move(card);
     reviewButton_ = std::move(button);
@@ -69,8 +69,10 @@ QString DashboardController::reviewTab() const {
 }
 
 void DashboardController::loadCategories() {
-    categories_ = database_.fetchCategories();
-    recomputeSidebar();
+    auto categories = database_.fetchCategories();
+    const bool moved = categories != categories_;
+    categories_ = std::move(categories);
+    recomputeSidebar(moved);
 }
 
 void DashboardController::openReview() {

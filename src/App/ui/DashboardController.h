@@ -76,7 +76,8 @@ signals:
     void sidebarChanged();
 
 private:
-    void recomputeSidebar();
+    // Sends sidebarChanged when what it shows moved, or always when the categories did.
+    void recomputeSidebar(bool categoriesMoved = false);
 
     Database& database_;
     DashboardSelection selection_;

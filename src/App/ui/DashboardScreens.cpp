@@ -7,6 +7,8 @@ DashboardScreens::DashboardScreens(const DashboardServices& services, DashboardC
     : QObject(parent),
       focus_(services.database, services.pomodoroTimer, services.clock, this),
       timeline_(services.database, dashboard, services.clock, this),
-      analytics_(services.database, services.clock) {}
+      analytics_(services.database, services.clock),
+      review_(services.database, services.sessionManager, dashboard),
+      settings_(services.database, services.sessionManager, dashboard, services.clock) {}
 
 }  // namespace larkspan

@@ -8,8 +8,10 @@
 
 #include "Analytics/ui/AnalyticsController.h"
 #include "App/ui/DashboardController.h"
+#include "Classification/ui/SettingsController.h"
 #include "Focus/PomodoroTimer.h"
 #include "Focus/ui/FocusController.h"
+#include "Review/ui/PendingReviewController.h"
 #include "Timeline/ui/TimelineController.h"
 
 namespace larkspan {
@@ -29,6 +31,8 @@ class DashboardScreens final : public QObject {
     Q_PROPERTY(larkspan::FocusController* focus READ focus CONSTANT)
     Q_PROPERTY(larkspan::TimelineController* timeline READ timeline CONSTANT)
     Q_PROPERTY(larkspan::AnalyticsController* analytics READ analytics CONSTANT)
+    Q_PROPERTY(larkspan::PendingReviewController* review READ review CONSTANT)
+    Q_PROPERTY(larkspan::SettingsController* settings READ settings CONSTANT)
 
 public:
     // `dashboard` holds what the screens share: the selected date and the categories.
@@ -38,11 +42,15 @@ public:
     FocusController* focus() { return &focus_; }
     TimelineController* timeline() { return &timeline_; }
     AnalyticsController* analytics() { return &analytics_; }
+    PendingReviewController* review() { return &review_; }
+    SettingsController* settings() { return &settings_; }
 
 private:
     FocusController focus_;
     TimelineController timeline_;
     AnalyticsController analytics_;
+    PendingReviewController review_;
+    SettingsController settings_;
 };
 
 }  // namespace larkspan

@@ -109,6 +109,8 @@ Rectangle {
                 "Timeline": timelineScreen,
                 "Focus": focusScreen,
                 "Analytics": analyticsScreen,
+                "Settings": settingsScreen,
+                "Review": reviewScreen,
             })[root.controller.shownTab] ?? comingSoon
 
             Component {
@@ -132,6 +134,22 @@ Rectangle {
 
                 AnalyticsView {
                     controller: root.screens.analytics
+                }
+            }
+
+            Component {
+                id: settingsScreen
+
+                SettingsView {
+                    controller: root.screens.settings
+                }
+            }
+
+            Component {
+                id: reviewScreen
+
+                PendingReviewView {
+                    controller: root.screens.review
                 }
             }
 

@@ -2,27 +2,13 @@
 
 #include <utility>
 
-#include "Ui/QtConversion.h"
-
 namespace larkspan {
-
-namespace {
-
-std::vector<CategoryChoice> choices(const std::vector<Category>& categories) {
-    std::vector<CategoryChoice> list;
-    for (const auto& category : categories)
-        list.push_back({category.id, toQString(category.name), toQString(category.icon),
-                        toQColor(category.color()), toQString(ApprovalPopup::menuTitle(category))});
-    return list;
-}
-
-}  // namespace
 
 ApprovalPopupController::ApprovalPopupController(ApprovalPopup popup, std::chrono::milliseconds tick,
                                                  QObject* parent)
     : QObject(parent), popup_(std::move(popup)), gridCategories_(this), menuCategories_(this) {
-    gridCategories_.setRows(choices(popup_.gridCategories()));
-    menuCategories_.setRows(choices(popup_.menuCategories()));
+    gridCategories_.setRows(categoryChoices(popup_.gridCategories()));
+    menuCategories_.setRows(categoryChoices(popup_.menuCategories()));
     timer_.setTimerType(Qt::PreciseTimer);
     timer_.setInterval(tick);
     connect(&timer_, &QTimer::timeout, this, &ApprovalPopupController::tick);

@@ -14,6 +14,9 @@ AbstractButton {
 
     property string emoji
     property color tint: palette.highlight
+    // The tile and its edge at rest; a transparent edge draws none.
+    property color restFill: Theme.tint(tint, Theme.track)
+    property color restEdge: Theme.tint(tint, Theme.tilePressed)
 
     implicitHeight: 34
     hoverEnabled: true
@@ -51,9 +54,9 @@ AbstractButton {
 
     background: Rectangle {
         radius: 8
-        color: Theme.tint(control.tint, control.down ? Theme.tilePressed
-                                                     : control.hovered ? Theme.tileHover : Theme.track)
-        border.width: control.visualFocus ? 2 : 1
-        border.color: control.visualFocus ? palette.highlight : Theme.tint(control.tint, Theme.tilePressed)
+        color: control.down ? Theme.tint(control.tint, Theme.tilePressed)
+                            : control.hovered ? Theme.tint(control.tint, Theme.tileHover) : control.restFill
+        border.width: control.visualFocus ? 2 : control.restEdge.a > 0 ? 1 : 0
+        border.color: control.visualFocus ? palette.highlight : control.restEdge
     }
 }

@@ -1,9 +1,14 @@
-// The answers the floating prompts offer, as list rows.
+// The answers the floating prompts and the review cards offer, as list rows.
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
 #include <QColor>
 #include <QString>
+
+#include <vector>
+
+#include "Review/ApprovalPopup.h"
+#include "Ui/QtConversion.h"
 
 namespace larkspan {
 
@@ -21,6 +26,15 @@ public:
     QColor tint;
     QString menuTitle;
 };
+
+// One row per category, in their order.
+inline std::vector<CategoryChoice> categoryChoices(const std::vector<Category>& categories) {
+    std::vector<CategoryChoice> list;
+    for (const auto& category : categories)
+        list.push_back({category.id, toQString(category.name), toQString(category.icon),
+                        toQColor(category.color()), toQString(ApprovalPopup::menuTitle(category))});
+    return list;
+}
 
 // One answer of the welcome-back card, keyed by its label.
 struct IdleOption {

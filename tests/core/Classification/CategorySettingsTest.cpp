@@ -1,0 +1,53 @@
+// The settings tab's category rules, and what the store does with the categories they build.
+#include <gtest/gtest.h>
+
+#include "Classification/CategorySettings.h"
+#include "Classification/Palette.h"
+#include "Data/Database.h"
+#include "TempDir.h"
+
+namespace larkspan {
+namespace {
+
+using namespace test;
+
+TEST(CategorySettings, BadgesNamesAndDeletion) {
+    EXPECT_EQ(productivityBadge(Productivity::productive), (ProductivityBadge{"Productive", Palette::green}));
+    EXPECT_EQ(productivityBadge(Productivity::neutral), (ProductivityBadge{"Neutral", Palette::grey}));
+    EXPECT_EQ(productivityBadge(Productivity::unproductive),
+              (ProductivityBadge{"Unproductive", Palette::red}));
+    EXPECT_FALSE(canConfirmCategoryName(""));
+    EXPECT_TRUE(canConfirmCategoryName(" "));
+    EXPECT_FALSE(canDeleteCategory(*categoryWithID(Category::seeded(), category_id::other)));
+    EXPECT_TRUE(canDeleteCategory(*categoryWithID(Category::seeded(), category_id::awayBreak)));
+}
+
+TEST(CategorySettings, StoredVerbatimAfterEverySeededOneAndEditedInPlace) {
+    TempDir dir;
+    Database db{dir / "tracker.db"};
+    const std::string names[] = {"Tom's stuff", "'); DROP TABLE categories; --",
+                                 "\u05e2\u05d1\u05d5\u05d3\u05d4", "\U0001F600 fun",
+                                 std::string(10'000, 'n')};
+    for (const auto& name : names)
+        db.insertCategory(newCategory(name, "\U0001F4E6", Productivity::productive));
+    const auto stored = db.fetchCategories();
+    ASSERT_EQ(stored.size(), Category::seeded().size() + std::size(names));
+    for (std::size_t i = 0; i < std::size(names); ++i) {
+        const auto& category = stored[Category::seeded().size() + i];
+        EXPECT_EQ(category.name, names[i]);
+        EXPECT_EQ(category.colorHex, "#AEAEB2");
+        EXPECT_EQ(category.sortOrder, 999);
+    }
+    // A name in use is refused, and nothing is added.
+    EXPECT_THROW(db.insertCategory(newCategory("Coding", "x", Productivity::neutral)), DBError);
+    EXPECT_EQ(db.fetchCategories().size(), stored.size());
+
+    const Category coding = *categoryWithID(stored, category_id::coding);
+    db.updateCategory(editedCategory(coding, "Coder's work", "\u2328", Productivity::neutral));
+    const Category renamed = *categoryWithID(db.fetchCategories(), category_id::coding);
+    EXPECT_EQ(renamed, editedCategory(coding, "Coder's work", "\u2328", Productivity::neutral));
+    EXPECT_EQ(renamed.colorHex, coding.colorHex);
+}
+
+}  // namespace
+}  // namespace larkspan

@@ -1,0 +1,54 @@
+#!/usr/bin/env bash
+# The review tab on a private desktop, through the accessibility tree as with a screen reader: an
+# application no rule knows waits for a category; answered on the review tab it is approved with the
+# chosen category, the answer is learned, and the tray's count and the sidebar's review button go.
+# Usage: review-test.sh path/to/larkspan
+set -euo pipefail
+larkspan=$1
+. "$(dirname "$0")/desktop-session.sh"
+
+start_desktop accessible
+a11y() { "$e2e_dir/accessibility/a11y.py" "$@" || fail "a11y $*"; }
+# The tray icon's tooltip: the status line with the pending count.
+tray_tooltip() {
+    /usr/bin/python3 - "$e2e_dir/accessibility" <<'PY'
+import sys
+import dbus
+sys.path.insert(0, sys.argv[1])
+import a11y
+bus, service = a11y.tray_item()
+tip = bus.get_object(service, "/StatusNotifierItem").Get(
+    "org.kde.StatusNotifierItem", "ToolTip", dbus_interface=dbus.PROPERTIES_IFACE)
+print(tip[2], tip[3])
+PY
+}
+
+terminal=$(open_window kitty "~/src")
+mystery=$(open_window Mystery "what is this")
+xdotool windowactivate --sync "$mystery"
+launch
+# A heartbeat 30 s after launch writes the open row's end; leaving after that closes it at over 30 s,
+# long enough to wait for an answer.
+sleep 34
+xdotool windowactivate --sync "$terminal"
+pending() { [ "$(db "SELECT count(*) FROM activities WHERE app_name='Mystery' AND needs_approval=1 AND is_approved=0")" = 1 ]; }
+wait_until 10 pending || fail "the unknown application is not waiting for a category"
+tray_counts() { tray_tooltip | grep -q "$1"; }
+tray_counts_none() { ! tray_tooltip | grep -q '●'; }
+wait_until 10 tray_counts '1 ●' ||
+    fail "the tray does not count the pending activity: $(tray_tooltip)"
+
+a11y tray menu "Review 1 Pending…"
+a11y press "page tab" "~^Review Activities, 1 need"
+a11y has heading "Review Activities"
+a11y press "push button" "Research"
+
+[ "$(db "SELECT is_approved, needs_approval, category_id FROM activities WHERE app_name='Mystery'")" = "1|0|11" ] ||
+    fail "the answer was not stored: $(db "SELECT * FROM activities WHERE app_name='Mystery'")"
+[ "$(db "SELECT category_id FROM learned_rules WHERE rule_type='app_name' AND rule_key='Mystery'")" = 11 ] ||
+    fail "the answer was not learned"
+a11y gone "page tab" "~^Review Activities, "
+a11y has heading "All caught up!"
+wait_until 10 tray_counts_none ||
+    fail "the tray still counts a pending activity: $(tray_tooltip)"
+echo "review: ok"

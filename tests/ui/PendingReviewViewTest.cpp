@@ -1,0 +1,106 @@
+// The review tab over a real store: empty, a few cards and a full list; a pick, "Skip" and
+// "Approve All as-is" settle cards, and the highlighted tile is the suggestion.
+#include <QTest>
+
+#include "ActivityBuilder.h"
+#include "DashboardRig.h"
+#include "QuickScreen.h"
+
+using namespace larkspan;
+
+namespace {
+
+struct Review {
+    test::DashboardRig rig;
+    QuickScreen screen;
+
+    Review() { rig.dashboard.loadCategories(); }
+    std::int64_t add(int i, std::optional<std::int64_t> category, std::string title = "Quarterly plan",
+                     std::optional<std::string> domain = "docs.example.org") {
+        return rig.db.insertActivity(test::ActivityBuilder(0, rig.clock.now() - 600.0 * (i + 1), 65 + 60 * i)
+                                         .app("Firefox", "org.mozilla.firefox")
+                                         .title(std::move(title))
+                                         .domain(std::move(domain))
+                                         .category(category)
+                                         .pending(0.4));
+    }
+    bool show() {
+        auto* controller = rig.screens.review();
+        const bool loaded =
+            screen.load("PendingReviewView", {{"controller", QVariant::fromValue(controller)}}, {900, 700});
+        controller->waitForLoad();
+        screen.grab();  // lays the cards out
+        return loaded;
+    }
+    void photograph(const char* state) {
+        for (auto scheme : {ColorScheme::light, ColorScheme::dark}) {
+            screen.setColorScheme(scheme);
+            QVERIFY(screen.saveScreenshot("review", state));
+        }
+    }
+};
+
+}  // namespace
+
+class PendingReviewViewTest : public QObject {
+    Q_OBJECT
+private slots:
+    void emptyListIsCaughtUp() {
+        Review review;
+        QVERIFY(review.show());
+        QVERIFY(review.screen.find("caughtUp")->isVisible());
+        QVERIFY(!review.screen.find("approveAll")->isVisible());
+        review.photograph("empty");
+    }
+
+    void cardsSettleByPickSkipAndApproveAll() {
+        Review review;
+        const auto first = review.add(
+            0, category_id::coding,
+            "\u05de\u05e1\u05de\u05da \u05d0\u05e8\u05d5\u05da \U0001F680 " + std::string(300, 'w'), std::nullopt);
+        const auto second = review.add(1, category_id::awayBreak);
+        const auto third = review.add(2, std::nullopt);
+        QVERIFY(review.show());
+        QCOMPARE(review.screen.find("cardList")->property("count").toInt(), 3);
+        QVERIFY(review.screen.text("cardMeta").startsWith(QStringLiteral("Firefox  \u00b7  ")));
+        QVERIFY(review.screen.text("cardMeta").endsWith(QStringLiteral("  \u00b7  1m")));
+        // The suggestion stands out: Coding is the first tile; "Away / Break" is not offered.
+        auto* coding = review.screen.find("category-0");
+        QVERIFY(coding->property("suggested").toBool());
+        QCOMPARE(review.rig.screens.review()->categories()->count(), 20);
+        review.photograph("three-cards");
+
+        // A pick: approved with that category, learned, the card goes.
+        QVERIFY(review.screen.press("category-10"));
+        QCOMPARE(review.rig.db.fetchActivity(first)->categoryID, category_id::research);
+        QVERIFY(!review.rig.db.fetchLearnedRules().empty());
+        review.rig.screens.review()->waitForLoad();
+        QTRY_COMPARE(review.screen.find("cardList")->property("count").toInt(), 2);
+
+        // The faded card may linger in the tree: the first card now is the next one.
+        QVERIFY(QMetaObject::invokeMethod(findItem(review.screen.find("card-0"), "skip"), "clicked"));
+        QCOMPARE(review.rig.db.pendingApprovalCount(), 1);
+
+        const auto rules = review.rig.db.fetchLearnedRules();
+        QVERIFY(review.screen.press("approveAll"));
+        review.rig.screens.review()->waitForLoad();
+        QTRY_VERIFY(review.screen.find("caughtUp")->isVisible());
+        QCOMPARE(review.rig.db.pendingApprovalCount(), 0);
+        QCOMPARE(review.rig.db.fetchLearnedRules(), rules);
+        // Each kept its suggestion, or "Other" without one; an "Away / Break" one too.
+        QCOMPARE(review.rig.db.fetchActivity(second)->categoryID, category_id::awayBreak);
+        QCOMPARE(review.rig.db.fetchActivity(third)->categoryID, category_id::other);
+    }
+
+    void aFullListShowsTheNewestHundred() {
+        Review review;
+        for (int i = 0; i < 120; ++i)
+            review.add(i % 40, category_id::reading, "Chapter " + std::to_string(i));
+        QVERIFY(review.show());
+        QCOMPARE(review.screen.find("cardList")->property("count").toInt(), 100);
+        review.photograph("hundred-cards");
+    }
+};
+
+QTEST_MAIN(PendingReviewViewTest)
+#include "PendingReviewViewTest.moc"

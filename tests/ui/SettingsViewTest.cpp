@@ -1,0 +1,109 @@
+// The settings tab over a real store: the category list with its badges, both sheets (adding, a
+// refused name, editing, Escape), hostile names, a failed write, and the retention buttons.
+#include <QTest>
+
+#include "ActivityBuilder.h"
+#include "DashboardRig.h"
+#include "QuickScreen.h"
+
+using namespace larkspan;
+
+namespace {
+
+struct Settings {
+    test::DashboardRig rig;
+    QuickScreen screen;
+    SettingsController& controller = *rig.screens.settings();
+
+    Settings() {
+        rig.dashboard.loadCategories();
+        QVERIFY(screen.load("SettingsView", {{"controller", QVariant::fromValue(&controller)}}, {820, 900}));
+    }
+    bool sheetOpen(const char* name) const {
+        auto* popup = screen.root()->findChild<QObject*>(name);
+        return popup && popup->property("opened").toBool();
+    }
+    void photograph(const char* state) {
+        for (auto scheme : {ColorScheme::light, ColorScheme::dark}) {
+            screen.setColorScheme(scheme);
+            QVERIFY(screen.saveScreenshot("settings", state));
+        }
+    }
+    QString lastName() { return QString::fromStdString(rig.db.fetchCategories().back().name); }
+};
+
+}  // namespace
+
+class SettingsViewTest : public QObject {
+    Q_OBJECT
+private slots:
+    void listsCategoriesWithBadgesAndNoDeleteForOther() {
+        Settings s;
+        QCOMPARE(s.controller.categories()->count(), 21);
+        QCOMPARE(s.screen.find("categoryRow-0")->property("badgeText").toString(),
+                 QStringLiteral("Productive"));
+        QVERIFY(!s.screen.find("categoryRow-20")->property("deletable").toBool());
+        s.photograph("list");
+        QVERIFY(s.screen.press("deleteThreeMonths"));
+        s.controller.waitForCompaction();
+        QVERIFY(!s.controller.compacting());
+    }
+
+    void addingByKeyboardAndARefusedNameKeepsTheSheet() {
+        Settings s;
+        QVERIFY(s.screen.press("addCategory"));
+        QTRY_VERIFY(s.sheetOpen("newCategorySheet"));
+        QVERIFY(!s.controller.canAdd());
+        for (const char key : std::string("Tom's"))
+            QTest::keyClick(s.screen.window(), key);
+        QCOMPARE(s.controller.newName(), QStringLiteral("Tom's"));
+        s.photograph("new-sheet");
+        QTest::keyClick(s.screen.window(), Qt::Key_Return);
+        QTRY_VERIFY(!s.sheetOpen("newCategorySheet"));
+        QCOMPARE(s.lastName(), QStringLiteral("Tom's"));
+        QCOMPARE(s.controller.newName(), QString());
+        QCOMPARE(s.controller.categories()->count(), 22);
+
+        // A name in use: nothing happens, the sheet stays open with what was typed.
+        s.controller.setNewName("Coding");
+        QVERIFY(s.screen.press("addCategory"));
+        QTRY_VERIFY(s.sheetOpen("newCategorySheet"));
+        QTest::keyClick(s.screen.window(), Qt::Key_Return);
+        QVERIFY(s.sheetOpen("newCategorySheet"));
+        QCOMPARE(s.controller.categories()->count(), 22);
+        QTest::keyClick(s.screen.window(), Qt::Key_Escape);
+        QTRY_VERIFY(!s.sheetOpen("newCategorySheet"));
+        QCOMPARE(s.controller.newName(), QStringLiteral("Coding"));
+    }
+
+    void editingHostileNamesAndAFailedWrite() {
+        Settings s;
+        const QString hostile = QStringLiteral("'); DROP TABLE categories; --");
+        QVERIFY(s.screen.press("edit"));
+        QTRY_VERIFY(s.sheetOpen("editCategorySheet"));
+        s.photograph("edit-sheet");
+        QVERIFY(s.controller.save(category_id::coding, hostile, QStringLiteral("\U0001F600"), 1));
+        QVERIFY(s.controller.save(category_id::writing, QString(10'000, QLatin1Char('n')), "x", 0));
+        QCOMPARE(QString::fromStdString(s.rig.db.fetchCategories().front().name), hostile);
+        QCOMPARE(s.screen.text("categoryName"), hostile);
+        s.photograph("hostile-names");
+
+        // A read-only store: the sheet stays open, the list, the rows and the activities stay.
+        const auto old =
+            s.rig.db.insertActivity(test::ActivityBuilder(0, 0, 60).category(category_id::coding));
+        s.rig.db.exec("PRAGMA query_only=ON");
+        QVERIFY(!s.controller.save(category_id::coding, QStringLiteral("Renamed"), "x", 0));
+        QVERIFY(!s.controller.remove(category_id::coding));
+        s.controller.deleteOlderThanOneYear();
+        QVERIFY(!s.controller.compacting());
+        QVERIFY(s.sheetOpen("editCategorySheet"));
+        QTest::keyClick(s.screen.window(), Qt::Key_Escape);
+        QTRY_VERIFY(!s.sheetOpen("editCategorySheet"));
+        QCOMPARE(QString::fromStdString(s.rig.db.fetchCategories().front().name), hostile);
+        QCOMPARE(s.rig.db.fetchActivity(old)->categoryID, category_id::coding);
+        QCOMPARE(s.controller.categories()->count(), 21);
+    }
+};
+
+QTEST_MAIN(SettingsViewTest)
+#include "SettingsViewTest.moc"
