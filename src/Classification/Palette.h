@@ -45,7 +45,6 @@ struct Palette {
     static constexpr double selectedRow = 0.06;    // the chosen row of a list, in the accent
     static constexpr double hollowMark = 0.35;     // an empty dot or mark
     static constexpr double badgeText = 0.7;       // a badge's text over a faint wash of its colour
-    static constexpr double pressedFill = 0.75;    // a filled button while held
     static constexpr double suggestedFill = 0.25;  // the suggested category's tile
     static constexpr double suggestedEdge = 0.5;   // and its edge
     // Of white on a colour:
