@@ -4,9 +4,6 @@ namespace larkspan {
 
 DashboardScreens::DashboardScreens(const DashboardServices& services, DashboardController& dashboard,
                                    QObject* parent)
-    : QObject(parent) {
-    static_cast<void>(services);
-    static_cast<void>(dashboard);
-}
+    : QObject(parent), calendar_(services.database, dashboard, services.clock, this) {}
 
 }  // namespace larkspan

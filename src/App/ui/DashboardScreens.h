@@ -6,6 +6,7 @@
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
 
+#include "Analytics/ui/CalendarController.h"
 #include "App/ui/DashboardController.h"
 #include "Focus/PomodoroTimer.h"
 
@@ -23,11 +24,17 @@ class DashboardScreens final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The dashboard window makes its screens.")
+    Q_PROPERTY(larkspan::CalendarController* calendar READ calendar CONSTANT)
 
 public:
     // `dashboard` holds what the screens share: the selected date and the categories.
     DashboardScreens(const DashboardServices& services, DashboardController& dashboard,
                      QObject* parent = nullptr);
+
+    CalendarController* calendar() { return &calendar_; }
+
+private:
+    CalendarController calendar_;
 };
 
 }  // namespace larkspan

@@ -106,7 +106,16 @@ Rectangle {
             // Each screen adds its tab's label and component here. (A switch in a binding hangs the
             // compiled QML of Qt 6.4.)
             sourceComponent: ({
+                "Calendar": calendarScreen,
             })[root.controller.shownTab] ?? comingSoon
+
+            Component {
+                id: calendarScreen
+
+                CalendarView {
+                    controller: root.screens.calendar
+                }
+            }
 
             Component {
                 id: comingSoon
