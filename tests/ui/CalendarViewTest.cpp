@@ -36,6 +36,7 @@ private slots:
         rig.db.insertActivity(
             ActivityRecord::manual(rig.clock.now() - 7200, rig.clock.now() - 300, 1, "Review", {}));
         rig.dashboard.loadCategories();
+        rig.dashboard.setSelectedTab(QStringLiteral("Calendar"));
         CalendarController& calendar = *rig.screens.calendar();
         QuickScreen screen;
         QVERIFY(screen.load("CalendarView", {{"controller", QVariant::fromValue(&calendar)}}, {900, 780}));
@@ -53,7 +54,7 @@ private slots:
 
         // A future day takes no press; a past one opens on the timeline.
         screen.press("day-24");
-        QCOMPARE(rig.dashboard.selectedTab(), QString());
+        QCOMPARE(rig.dashboard.selectedTab(), QStringLiteral("Calendar"));
         QVERIFY(screen.press("day-10"));
         QCOMPARE(rig.dashboard.selectedTab(), QStringLiteral("Timeline"));
         QCOMPARE(rig.dashboard.selectedDate(), *localMidnight(2025, 11, 10));

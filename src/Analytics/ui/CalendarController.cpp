@@ -120,8 +120,8 @@ void CalendarController::recomputeCells() {
             item.isSelected = cell->isSelected;
             item.isToday = cell->isToday;
             item.isFuture = cell->isFuture;
-            item.accessibleName =
-                locale.toString(date, QStringLiteral("dddd d MMMM")) + u": " + toQString(dayFigures(*cell));
+            item.accessibleName = locale.toString(date, QStringLiteral("dddd d MMMM")) +
+                                  QStringLiteral(": ") + toQString(dayFigures(*cell));
         }
         items.push_back(std::move(item));
     }

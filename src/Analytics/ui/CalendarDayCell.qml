@@ -70,14 +70,13 @@ AbstractButton {
                 font.weight: Font.DemiBold
             }
         }
-        Text {
+        CalendarFigure {
             objectName: "pomodoros"
             Layout.alignment: Qt.AlignHCenter
             Layout.preferredHeight: 12
             text: cell.pomodoroText
             color: Theme.secondaryText
-            font.pixelSize: Theme.fontTiny
-            font.family: Theme.emojiFont
+            pixelSize: Theme.fontTiny
         }
     }
 }

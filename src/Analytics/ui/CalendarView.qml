@@ -149,14 +149,13 @@ FocusScope {
                             anchors.centerIn: parent
                             spacing: 2
 
-                            Text {
+                            CalendarFigure {
                                 objectName: "value"
                                 Layout.alignment: Qt.AlignHCenter
                                 text: card.value
                                 color: card.tone
-                                font.pixelSize: Theme.fontTitle
-                                font.weight: Font.Bold
-                                font.family: card.value.startsWith("\u{1F345}") ? Theme.emojiFont : font.family
+                                pixelSize: Theme.fontTitle
+                                bold: true
                             }
                             Text {
                                 Layout.alignment: Qt.AlignHCenter
@@ -184,6 +183,12 @@ FocusScope {
                 visible: root.controller.header.hasCategoryBar
                 onWidthChanged: root.controller.barWidth = width
 
+                // The track shows where the categories past the sixth would go.
+                Rectangle {
+                    anchors.fill: parent
+                    radius: 4
+                    color: Theme.separator
+                }
                 Row {
                     id: segments
                     anchors.fill: parent
