@@ -1,5 +1,5 @@
 // A heavy user's history written into a real store, for benchmarks and screen tests: workdays of some
-// 1,800 activities from about 08:30 into the evening, lighter weekends, varied applications and
+// 1,840 activities from about 08:30 into the evening, lighter weekends, varied applications and
 // categories, browsers with their tabs' domains, away spans over lunch, a few waiting for a category,
 // and pomodoros on most workdays. A year of it is about 550,000 activities. The same seed writes the
 // same history.
@@ -13,7 +13,7 @@ namespace larkspan::bench {
 
 struct HistoryShape {
     int days = 365;  // ending with the day of `lastDay`
-    int activitiesPerWorkday = 1800;
+    int activitiesPerWorkday = 1840;
     unsigned seed = 7;
 };
 
