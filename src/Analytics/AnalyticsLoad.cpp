@@ -7,7 +7,7 @@ namespace larkspan::analytics {
 AnalyticsData load(Database& database, TimeRange range, Date selectedDay, Date now) {
     const DateInterval period = dateRange(range, selectedDay, now);
     AnalyticsData data;
-    data.activities = database.fetchActivities(period.from, period.to);
+    data.activities = database.fetchActivityTotals(period.from, period.to);
     std::erase_if(data.activities, [](const ActivityRecord& record) {
         return record.durationSeconds <= kLongestDroppedSeconds;
     });

@@ -12,19 +12,15 @@ struct TabEntry {
     DashTab tab;
     const char* label;
     const char* symbol;
-    const char* coming;
 };
 
 constexpr std::array<TabEntry, 6> kTabs{{
-    {DashTab::timeline, "Timeline", "clock.fill", "Your day as a timeline of activities arrives here."},
-    {DashTab::focus, "Focus", "timer", "The Pomodoro timer and today's tasks arrive here."},
-    {DashTab::calendar, "Calendar", "calendar", "Your tracked days, a month at a time, arrive here."},
-    {DashTab::analytics, "Analytics", "chart.bar.fill",
-     "Where your time goes, by day, week and month, arrives here."},
-    {DashTab::settings, "Settings", "gearshape.fill",
-     "Your categories and the clearing of old data arrive here."},
-    {DashTab::pendingReview, "Review", "exclamationmark.circle.fill",
-     "Activities waiting for a category arrive here to be sorted."},
+    {DashTab::timeline, "Timeline", "clock.fill"},
+    {DashTab::focus, "Focus", "timer"},
+    {DashTab::calendar, "Calendar", "calendar"},
+    {DashTab::analytics, "Analytics", "chart.bar.fill"},
+    {DashTab::settings, "Settings", "gearshape.fill"},
+    {DashTab::pendingReview, "Review", "exclamationmark.circle.fill"},
 }};
 
 const TabEntry& info(DashTab tab) {
@@ -39,10 +35,6 @@ const char* label(DashTab tab) {
 
 const char* symbolName(DashTab tab) {
     return info(tab).symbol;
-}
-
-const char* comingLine(DashTab tab) {
-    return info(tab).coming;
 }
 
 std::optional<DashTab> dashTabFromLabel(std::string_view text) {

@@ -30,8 +30,6 @@ const std::array<DashTab, 5>& mainCases();
 constexpr DashTab shownTab(std::optional<DashTab> selected) {
     return selected.value_or(DashTab::timeline);
 }
-// One sentence saying what the tab's screen is for, shown while it has no screen of its own.
-const char* comingLine(DashTab tab);
 
 // The shared state of the dashboard's screens that outlives closing the window.
 struct DashboardSelection {

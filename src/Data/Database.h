@@ -151,6 +151,10 @@ public:
 
     // Activities starting within [from, to], both bounds inclusive, oldest first.
     std::vector<ActivityRecord> fetchActivities(Date from, Date to);
+    // The same rows with only id, application name, category, start, end and duration read; every
+    // other field keeps its default. For totals over months of rows, whose titles, addresses and
+    // notes would be most of the read's time.
+    std::vector<ActivityRecord> fetchActivityTotals(Date from, Date to);
     std::optional<ActivityRecord> fetchActivity(std::int64_t id);
     // Pending (needs approval, not approved, at least 30 seconds), newest first.
     std::vector<ActivityRecord> fetchPendingApprovals(int limit = 10);

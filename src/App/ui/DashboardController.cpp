@@ -56,13 +56,6 @@ QString DashboardController::shownTab() const {
     return toQString(label(larkspan::shownTab(selection_.tab)));
 }
 
-QString DashboardController::shownSymbol() const {
-    return toQString(symbolName(larkspan::shownTab(selection_.tab)));
-}
-
-QString DashboardController::shownComingLine() const {
-    return toQString(comingLine(larkspan::shownTab(selection_.tab)));
-}
 
 QString DashboardController::reviewTab() const {
     return toQString(label(DashTab::pendingReview));

@@ -32,10 +32,8 @@ class DashboardController final : public QObject {
     Q_PROPERTY(QString selectedTab READ selectedTab WRITE setSelectedTab NOTIFY selectionChanged)
     // Seconds since 1970: the day the timeline and the calendar show.
     Q_PROPERTY(double selectedDate READ selectedDate WRITE setSelectedDate NOTIFY selectionChanged)
-    // The tab whose screen shows (an absent selection is the timeline): label, symbol, coming line.
+    // The label of the tab whose screen shows; an absent selection is the timeline.
     Q_PROPERTY(QString shownTab READ shownTab NOTIFY selectionChanged)
-    Q_PROPERTY(QString shownSymbol READ shownSymbol NOTIFY selectionChanged)
-    Q_PROPERTY(QString shownComingLine READ shownComingLine NOTIFY selectionChanged)
     // The sidebar's list of the main tabs.
     Q_PROPERTY(larkspan::ValueListModelBase* tabs READ tabs CONSTANT)
 
@@ -54,8 +52,6 @@ public:
     double selectedDate() const { return selection_.date; }
     void setSelectedDate(double date);
     QString shownTab() const;
-    QString shownSymbol() const;
-    QString shownComingLine() const;
     ValueListModelBase* tabs() { return &tabs_; }
 
     const SidebarLiveCard& liveCard() const { return liveCard_; }

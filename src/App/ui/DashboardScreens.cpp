@@ -7,6 +7,7 @@ DashboardScreens::DashboardScreens(const DashboardServices& services, DashboardC
     : QObject(parent),
       focus_(services.database, services.pomodoroTimer, services.clock, this),
       timeline_(services.database, dashboard, services.clock, this),
+      calendar_(services.database, dashboard, services.clock, this),
       analytics_(services.database, services.clock),
       review_(services.database, services.sessionManager, dashboard),
       settings_(services.database, services.sessionManager, dashboard, services.clock) {}

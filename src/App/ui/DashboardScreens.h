@@ -7,6 +7,7 @@
 #include <QObject>
 
 #include "Analytics/ui/AnalyticsController.h"
+#include "Analytics/ui/CalendarController.h"
 #include "App/ui/DashboardController.h"
 #include "Classification/ui/SettingsController.h"
 #include "Focus/PomodoroTimer.h"
@@ -28,11 +29,12 @@ class DashboardScreens final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The dashboard window makes its screens.")
-    Q_PROPERTY(larkspan::FocusController* focus READ focus CONSTANT)
     Q_PROPERTY(larkspan::TimelineController* timeline READ timeline CONSTANT)
+    Q_PROPERTY(larkspan::FocusController* focus READ focus CONSTANT)
+    Q_PROPERTY(larkspan::CalendarController* calendar READ calendar CONSTANT)
     Q_PROPERTY(larkspan::AnalyticsController* analytics READ analytics CONSTANT)
-    Q_PROPERTY(larkspan::PendingReviewController* review READ review CONSTANT)
     Q_PROPERTY(larkspan::SettingsController* settings READ settings CONSTANT)
+    Q_PROPERTY(larkspan::PendingReviewController* review READ review CONSTANT)
 
 public:
     // `dashboard` holds what the screens share: the selected date and the categories.
@@ -41,6 +43,7 @@ public:
 
     FocusController* focus() { return &focus_; }
     TimelineController* timeline() { return &timeline_; }
+    CalendarController* calendar() { return &calendar_; }
     AnalyticsController* analytics() { return &analytics_; }
     PendingReviewController* review() { return &review_; }
     SettingsController* settings() { return &settings_; }
@@ -48,6 +51,7 @@ public:
 private:
     FocusController focus_;
     TimelineController timeline_;
+    CalendarController calendar_;
     AnalyticsController analytics_;
     PendingReviewController review_;
     SettingsController settings_;

@@ -11,10 +11,6 @@ Rectangle {
     required property DashboardController controller
     required property DashboardScreens screens
 
-    // The review screen keeps the orange of its button; the others the palette's accent.
-    readonly property color detailAccent: controller.shownTab === controller.reviewTab
-                                          ? Theme.orange : palette.highlight
-
     implicitWidth: 1100
     implicitHeight: 740
     color: palette.base
@@ -98,20 +94,21 @@ Rectangle {
             }
         }
 
-        // The selected tab's screen, made when the tab is first shown.
+        // The selected tab's screen, made each time its tab is shown; what it keeps lives in its
+        // controller.
         Loader {
             id: detail
             objectName: "detail"
             SplitView.fillWidth: true
-            // Each screen adds its tab's label and component here. (A switch in a binding hangs the
-            // compiled QML of Qt 6.4.)
+            // One screen per tab label. (A switch in a binding hangs the compiled QML of Qt 6.4.)
             sourceComponent: ({
                 "Timeline": timelineScreen,
                 "Focus": focusScreen,
+                "Calendar": calendarScreen,
                 "Analytics": analyticsScreen,
                 "Settings": settingsScreen,
                 "Review": reviewScreen,
-            })[root.controller.shownTab] ?? comingSoon
+            })[root.controller.shownTab]
 
             Component {
                 id: timelineScreen
@@ -126,6 +123,14 @@ Rectangle {
 
                 FocusView {
                     controller: root.screens.focus
+                }
+            }
+
+            Component {
+                id: calendarScreen
+
+                CalendarView {
+                    controller: root.screens.calendar
                 }
             }
 
@@ -150,15 +155,6 @@ Rectangle {
 
                 PendingReviewView {
                     controller: root.screens.review
-                }
-            }
-
-            Component {
-                id: comingSoon
-
-                DashboardComingSoon {
-                    controller: root.controller
-                    accent: root.detailAccent
                 }
             }
         }

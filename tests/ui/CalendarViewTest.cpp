@@ -1,0 +1,89 @@
+// The calendar tab over a temporary store holding 90 days of generated history: the present month
+// with its figures, a past month, a month without data, moving by keyboard, and handing a day to the
+// timeline.
+#include <QTest>
+
+#include "DashboardRig.h"
+#include "Platform/LocalDay.h"
+#include "QuickScreen.h"
+#include "ScopedTimeZone.h"
+#include "YearOfData.h"
+
+using namespace larkspan;
+
+namespace {
+
+QString cellText(QuickScreen& screen, const QString& cell, const QString& part) {
+    return findItem(screen.find(cell), part)->property("text").toString();
+}
+
+void shoot(QuickScreen& screen, const QString& state) {
+    for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+        screen.setColorScheme(scheme);
+        QVERIFY(screen.saveScreenshot("calendar", state));
+    }
+}
+
+}  // namespace
+
+class CalendarViewTest : public QObject {
+    Q_OBJECT
+private slots:
+    void monthsOfHistory() {
+        test::ScopedTimeZone zone{"Europe/Berlin"};
+        test::DashboardRig rig;  // Sunday 23 November 2025, 09:00
+        bench::writeHistory(rig.db, rig.clock.now() - 86400, {90, 600, 3});
+        rig.db.insertActivity(
+            ActivityRecord::manual(rig.clock.now() - 7200, rig.clock.now() - 300, 1, "Review", {}));
+        rig.dashboard.loadCategories();
+        rig.dashboard.setSelectedTab(QStringLiteral("Calendar"));
+        CalendarController& calendar = *rig.screens.calendar();
+        QuickScreen screen;
+        QVERIFY(screen.load("CalendarView", {{"controller", QVariant::fromValue(&calendar)}}, {900, 780}));
+        calendar.waitForLoad();
+
+        // The present month: today ringed with its hours, the summary and the bar filled.
+        QCOMPARE(screen.text("monthTitle"), QStringLiteral("November 2025"));
+        QVERIFY(screen.find("nextMonth")->isEnabled());
+        QCOMPARE(cellText(screen, "day-23", "hours"), QStringLiteral("2h"));
+        QVERIFY(screen.accessibleName("day-23").startsWith(
+            QStringLiteral("Sunday 23 November: 1h 55m, 100 % productive")));
+        QCOMPARE(screen.accessibleName("day-24"), QStringLiteral("Monday 24 November: in the future"));
+        QVERIFY(screen.find("categoryBar")->isVisible());
+        shoot(screen, "present-month");
+
+        // A future day takes no press; a past one opens on the timeline.
+        screen.press("day-24");
+        QCOMPARE(rig.dashboard.selectedTab(), QStringLiteral("Calendar"));
+        QVERIFY(screen.press("day-10"));
+        QCOMPARE(rig.dashboard.selectedTab(), QStringLiteral("Timeline"));
+        QCOMPARE(rig.dashboard.selectedDate(), *localMidnight(2025, 11, 10));
+
+        // → reaches next month only, Home comes back, ← goes into the past.
+        screen.root()->forceActiveFocus();
+        QTest::keyClick(screen.window(), Qt::Key_Right);
+        QTest::keyClick(screen.window(), Qt::Key_Right);
+        QCOMPARE(screen.text("monthTitle"), QStringLiteral("December 2025"));
+        QVERIFY(!screen.find("nextMonth")->isEnabled());
+        QTest::keyClick(screen.window(), Qt::Key_Home);
+        QTest::keyClick(screen.window(), Qt::Key_Left);
+        QTest::keyClick(screen.window(), Qt::Key_Left);
+        calendar.waitForLoad();
+        QCOMPARE(screen.text("monthTitle"), QStringLiteral("September 2025"));
+        QVERIFY(!screen.accessibleName("day-1").endsWith(QStringLiteral("nothing tracked")));
+        shoot(screen, "past-month");
+
+        // Before the history began: zeros, no bar.
+        for (int i = 0; i < 4; ++i)
+            QTest::keyClick(screen.window(), Qt::Key_Left);
+        calendar.waitForLoad();
+        QCOMPARE(screen.text("monthTitle"), QStringLiteral("May 2025"));
+        QCOMPARE(screen.accessibleName("stat-Productive"), QStringLiteral("Productive: 0%"));
+        QCOMPARE(screen.accessibleName("stat-Pomodoros"), QStringLiteral("Pomodoros: \U0001F345 0"));
+        QVERIFY(!screen.find("categoryBar")->isVisible());
+        shoot(screen, "empty-month");
+    }
+};
+
+QTEST_MAIN(CalendarViewTest)
+#include "CalendarViewTest.moc"
