@@ -98,6 +98,12 @@ public:
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;
 
+    // Main thread, like the other callers off the queue. A file that was write-protected when the
+    // connection opened keeps that connection read-only for good; when the file takes writes again,
+    // this swaps in a fresh read-write connection to it (configured and migrated as at opening).
+    // Does nothing while the connection can write or the file still refuses writes.
+    void reopenIfReadOnly();
+
     // --- Low-level helpers -------------------------------------------------------------------
 
     // Runs one or more statements with sqlite3_exec on the caller's thread. Returns true; throws
@@ -210,7 +216,12 @@ private:
         void operator()(sqlite3* db) const { sqlite3_close(db); }
     };
 
-    void openDB(const std::filesystem::path& path);
+    using Connection = std::unique_ptr<sqlite3, ConnectionCloser>;
+
+    // Opens `path` with SQLite's open `flags`, serialized and with the busy timeout. Throws openFailed.
+    static Connection openConnection(const std::filesystem::path& path, int flags);
+    // The pragmas, the schema and the first categories, on the connection just opened.
+    void prepareStore();
     void migrate();
     void addColumnIfMissing(const std::string& table, const std::string& column,
                             const std::string& definition);
@@ -221,8 +232,10 @@ private:
     // thread as a fresh copy, so no exception object is shared between the two threads.
     void runOnQueue(const std::function<void()>& work);
     // Runs `work` in one transaction on the caller's thread: committed when it returns, rolled back
-    // when it throws DBError, which is thrown on.
-    void inTransaction(const std::function<void()>& work);
+    // when it throws DBError, which is thrown on. A deferred transaction takes the write lock only at
+    // its first write, so one that writes nothing also runs on a read-only connection.
+    enum class Lock { immediate, deferred };
+    void inTransaction(const std::function<void()>& work, Lock lock = Lock::immediate);
     // On the queue: runs `sql` with `values` bound and discards any error.
     template <typename... Values>
     void runDiscardingError(const std::string& sql, const Values&... values) {
@@ -238,7 +251,7 @@ private:
     std::string errMsg() const;
 
     // Declared before the queue so that the queue's worker has stopped when the connection closes.
-    std::unique_ptr<sqlite3, ConnectionCloser> db_;
+    Connection db_;
     SerialQueue queue_{"com.larkspan.db"};
 };
 
