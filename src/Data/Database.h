@@ -232,10 +232,8 @@ private:
     // thread as a fresh copy, so no exception object is shared between the two threads.
     void runOnQueue(const std::function<void()>& work);
     // Runs `work` in one transaction on the caller's thread: committed when it returns, rolled back
-    // when it throws DBError, which is thrown on. A deferred transaction takes the write lock only at
-    // its first write, so one that writes nothing also runs on a read-only connection.
-    enum class Lock { immediate, deferred };
-    void inTransaction(const std::function<void()>& work, Lock lock = Lock::immediate);
+    // when it throws DBError, which is thrown on.
+    void inTransaction(const std::function<void()>& work);
     // On the queue: runs `sql` with `values` bound and discards any error.
     template <typename... Values>
     void runDiscardingError(const std::string& sql, const Values&... values) {

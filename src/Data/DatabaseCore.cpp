@@ -170,8 +170,8 @@ void Database::runOnQueue(const std::function<void()>& work) {
         throw DBError(*kind, message);
 }
 
-void Database::inTransaction(const std::function<void()>& work, Lock lock) {
-    exec(lock == Lock::immediate ? "BEGIN IMMEDIATE" : "BEGIN");
+void Database::inTransaction(const std::function<void()>& work) {
+    exec("BEGIN IMMEDIATE");
     try {
         work();
         exec("COMMIT");

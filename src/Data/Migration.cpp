@@ -118,23 +118,17 @@ const std::string_view kBundleIDRule = "bundle_id";
 }  // namespace
 
 void Database::migrate() {
-    // One commit for the whole schema of a new file; deferred, because on an up-to-date file nothing
-    // here writes and a read-only file must still open.
-    inTransaction(
-        [this] {
-            exec(kCreateCategories);
-            exec(kCreateActivities);
-            for (const char* index : kActivityIndexes)
-                exec(index);
-            exec(kCreateApprovalQueue);
-            addColumnIfMissing("activities", "is_manual", "INTEGER NOT NULL DEFAULT 0");
-            addColumnIfMissing("activities", "notes", "TEXT");
-            exec(kCreateTodoItems);
-            exec(kCreateTodoIndex);
-            exec(kCreateDailyPomoCounts);
-            exec(kCreateLearnedRules);
-        },
-        Lock::deferred);
+    exec(kCreateCategories);
+    exec(kCreateActivities);
+    for (const char* index : kActivityIndexes)
+        exec(index);
+    exec(kCreateApprovalQueue);
+    addColumnIfMissing("activities", "is_manual", "INTEGER NOT NULL DEFAULT 0");
+    addColumnIfMissing("activities", "notes", "TEXT");
+    exec(kCreateTodoItems);
+    exec(kCreateTodoIndex);
+    exec(kCreateDailyPomoCounts);
+    exec(kCreateLearnedRules);
 
     const int version = query("PRAGMA user_version", nullptr, [](sqlite3_stmt* stmt) {
         return sqlite3_step(stmt) == SQLITE_ROW ? sqlite3_column_int(stmt, 0) : 0;
