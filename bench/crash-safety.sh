@@ -16,6 +16,8 @@ windows=($(open_window Alpha "alpha") $(open_window Beta "beta \"b\" 🚀") $(op
 switcher() {
     while true; do
         xdotool windowactivate "${windows[RANDOM % 3]}" 2>/dev/null || true
+        # Window switches are no input: a moving pointer keeps the tracker from counting the user away.
+        xdotool mousemove $((100 + RANDOM % 100)) 100
         sleep "$((4 + RANDOM % 4)).$((RANDOM % 10))"
     done
 }
