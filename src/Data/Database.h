@@ -1,6 +1,7 @@
 // The store: one SQLite database holding activities, categories, learned rules, the tasks of each
 // day and the count of finished focus periods. One Database owns one connection for the life of the
-// process; the application uses the instance of shared(), tests and tools open their own file.
+// process (replaced only by reopenIfReadOnly); the application uses the instance of shared(), tests
+// and tools open their own file.
 //
 // Threads. Every operation below puts its statement on the store queue ("com.larkspan.db") by a
 // synchronous dispatch and waits, so operations from any thread run one at a time and a read after
