@@ -3,6 +3,7 @@
 #include <QtGui/qguiapplication_platform.h>
 #include <QAccessible>
 #include <QApplication>
+#include <QTimer>
 
 #include <cstdio>
 #include <cstdlib>
@@ -37,10 +38,13 @@
 #include "Platform/Qt/TerminationSignals.h"
 #include "Platform/Qt/WorkspaceFactory.h"
 #include "Platform/SerialQueue.h"
+#include "Platform/Subscription.h"
 
 using namespace larkspan;
 
 namespace {
+
+constexpr int kFirstPictureWaitMs = 1000;
 
 // Without any display Qt would abort with a long plugin message; say what is wrong instead.
 bool hasDisplay() {
@@ -120,8 +124,17 @@ int main(int argc, char** argv) {
         AppEnvironment{clock, *mainQueue, timers, defaults, sounds, *notifier, notifications, workspace,
                        scripts, monitorQueue, prompts ? static_cast<AppPresenter&>(*prompts) : presenter});
 
-    // Launching draws the first title, so the tray icon never shows blank.
+    // Launching draws the first title, so the tray icon never shows blank. Its picture waits for the
+    // first stored session (or a second without one), so that session never waits for the emoji font.
+    TrayIcon& tray = presenter.tray();
+    tray.holdPictures();
     delegate->start();
+    const Subscription firstSession =
+        delegate->sessionManager()->currentSession.subscribe([&tray](const auto& session) {
+            if (session)
+                tray.releasePictures();
+        });
+    QTimer::singleShot(kFirstPictureWaitMs, &tray, &TrayIcon::releasePictures);
     // Qt's accessibility bridge (made for the application's root object and at the first QML item)
     // and its tray check ask the session bus synchronously: they wait for the bus to answer, and
     // tracking does not wait for them. So the loop below is QCoreApplication's, which leaves the
@@ -139,7 +152,6 @@ int main(int argc, char** argv) {
              [connection] { return compositingManagerRunning(connection); }});
     }
 
-    TrayIcon& tray = presenter.tray();
     QObject::connect(&tray, &TrayIcon::popoverToggleRequested, [&presenter] { presenter.togglePopover(); });
     tray.setMenuItems([&delegate] { return delegate->trayMenu()->contextMenuItems(); });
     QObject::connect(&tray, &TrayIcon::openDashboardRequested,

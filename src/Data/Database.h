@@ -1,6 +1,7 @@
 // The store: one SQLite database holding activities, categories, learned rules, the tasks of each
 // day and the count of finished focus periods. One Database owns one connection for the life of the
-// process; the application uses the instance of shared(), tests and tools open their own file.
+// process (replaced only by reopenIfReadOnly); the application uses the instance of shared(), tests
+// and tools open their own file.
 //
 // Threads. Every operation below puts its statement on the store queue ("com.larkspan.db") by a
 // synchronous dispatch and waits, so operations from any thread run one at a time and a read after
@@ -97,6 +98,12 @@ public:
     ~Database() = default;
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;
+
+    // Main thread, like the other callers off the queue. A file that was write-protected when the
+    // connection opened keeps that connection read-only for good; when the file takes writes again,
+    // this swaps in a fresh read-write connection to it (configured and migrated as at opening).
+    // Does nothing while the connection can write or the file still refuses writes.
+    void reopenIfReadOnly();
 
     // --- Low-level helpers -------------------------------------------------------------------
 
@@ -214,7 +221,12 @@ private:
         void operator()(sqlite3* db) const { sqlite3_close(db); }
     };
 
-    void openDB(const std::filesystem::path& path);
+    using Connection = std::unique_ptr<sqlite3, ConnectionCloser>;
+
+    // Opens `path` with SQLite's open `flags`, serialized and with the busy timeout. Throws openFailed.
+    static Connection openConnection(const std::filesystem::path& path, int flags);
+    // The pragmas, the schema and the first categories, on the connection just opened.
+    void prepareStore();
     void migrate();
     void addColumnIfMissing(const std::string& table, const std::string& column,
                             const std::string& definition);
@@ -242,7 +254,7 @@ private:
     std::string errMsg() const;
 
     // Declared before the queue so that the queue's worker has stopped when the connection closes.
-    std::unique_ptr<sqlite3, ConnectionCloser> db_;
+    Connection db_;
     SerialQueue queue_{"com.larkspan.db"};
 };
 

@@ -21,7 +21,7 @@ constexpr int kBusyTimeoutMilliseconds = 5000;
 
 // SQLite must run in serialized mode before the first connection opens. The library's default is
 // usually serialized already; sqlite3_config fails harmlessly when SQLite has been initialised by
-// someone else, and openDB checks the mode the connection actually got.
+// someone else, and openConnection checks the mode the connection actually got.
 void requestSerializedMode() {
     static std::once_flag once;
     std::call_once(once, [] {
@@ -78,33 +78,59 @@ Database& Database::shared() {
     return *instance;
 }
 
-Database::Database(const std::filesystem::path& path) {
-    openDB(path);
+Database::Database(const std::filesystem::path& path)
+    : db_(openConnection(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE)) {
+    prepareStore();
+}
+
+void Database::prepareStore() {
     // WAL with NORMAL sync: commits need no fsync of their own, and a crash loses at most the last
-    // commits, never consistency. The cache is bounded at 4,000 KiB (negative values count KiB).
+    // commits, never consistency. NORMAL comes first, so that a new file's switch to WAL waits for
+    // fewer flushes. The cache is bounded at 4,000 KiB (negative values count KiB).
+    exec("PRAGMA synchronous=NORMAL");
     exec("PRAGMA journal_mode=WAL");
     exec("PRAGMA foreign_keys=ON");
-    exec("PRAGMA synchronous=NORMAL");
     exec("PRAGMA cache_size=-4000");
     migrate();
     seedCategories();
 }
 
-void Database::openDB(const std::filesystem::path& path) {
+Database::Connection Database::openConnection(const std::filesystem::path& path, int flags) {
     requestSerializedMode();
-    sqlite3* connection = nullptr;
-    const int result = sqlite3_open(path.c_str(), &connection);
-    db_.reset(connection);  // a handle comes back even on failure and must be closed
-    if (result != SQLITE_OK)
-        throw DBError(DBError::Kind::openFailed, errMsg());
+    sqlite3* handle = nullptr;
+    const int result = sqlite3_open_v2(path.c_str(), &handle, flags, nullptr);
+    Connection connection(handle);  // a handle comes back even on failure and must be closed
+    if (result != SQLITE_OK) {
+        throw DBError(DBError::Kind::openFailed,
+                      handle != nullptr ? sqlite3_errmsg(handle) : "out of memory");
+    }
     // Only serialized connections carry a mutex of their own.
-    if (sqlite3_db_mutex(db_.get()) == nullptr) {
+    if (sqlite3_db_mutex(connection.get()) == nullptr) {
         throw DBError(DBError::Kind::openFailed, "SQLite is not in serialized threading mode");
     }
     // A backup tool or a sqlite3 shell may hold the write lock for a moment: wait for it rather than
     // fail the write. The waiting thread is the store queue's, with its caller blocked behind it, so
     // the bound keeps a main-thread write from stalling the interface for longer than this.
-    sqlite3_busy_timeout(db_.get(), kBusyTimeoutMilliseconds);
+    sqlite3_busy_timeout(connection.get(), kBusyTimeoutMilliseconds);
+    return connection;
+}
+
+void Database::reopenIfReadOnly() {
+    queue_.sync([this] {
+        if (sqlite3_db_readonly(db_.get(), "main") != 1)
+            return;
+        const std::filesystem::path path = sqlite3_db_filename(db_.get(), "main");
+        try {
+            // Never creates: a file gone missing stays an error rather than becoming an empty store.
+            Connection writable = openConnection(path, SQLITE_OPEN_READWRITE);
+            if (sqlite3_db_readonly(writable.get(), "main") != 0)
+                return;
+            db_ = std::move(writable);
+            prepareStore();
+        } catch (const DBError&) {
+            // Still refused; the next failed write asks again.
+        }
+    });
 }
 
 bool Database::exec(const std::string& sql) {

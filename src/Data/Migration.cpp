@@ -169,19 +169,29 @@ void Database::addColumnIfMissing(const std::string& table, const std::string& c
     }
 }
 
-// Seeds only a database without any category, so categories the user deleted never come back.
+// Seeds only a database without any category, so categories the user deleted never come back. One
+// transaction over one prepared statement: a first launch stores its first row sooner.
 void Database::seedCategories() {
     const std::int64_t count = query("SELECT COUNT(*) FROM categories", nullptr, [](sqlite3_stmt* stmt) {
         return sqlite3_step(stmt) == SQLITE_ROW ? sqlite3_column_int64(stmt, 0) : std::int64_t{0};
     });
     if (count != 0)
         return;
-    for (const Category& category : Category::seeded()) {
-        run("INSERT OR IGNORE INTO categories (id, name, color_hex, icon, productivity, is_system, "
-            "sort_order)\nVALUES (?, ?, ?, ?, ?, 1, ?);",
-            category.id, category.name, category.colorHex, category.icon, rawValue(category.productivity),
-            category.sortOrder);
-    }
+    inTransaction([this] {
+        Statement insert(
+            db_.get(),
+            "INSERT OR IGNORE INTO categories (id, name, color_hex, icon, productivity, is_system, "
+            "sort_order)\nVALUES (?, ?, ?, ?, ?, 1, ?);");
+        if (!insert)
+            throw DBError(DBError::Kind::prepareFailed, errMsg());
+        for (const Category& category : Category::seeded()) {
+            bindValues(insert.get(), category.id, category.name, category.colorHex, category.icon,
+                       rawValue(category.productivity), category.sortOrder);
+            if (sqlite3_step(insert.get()) != SQLITE_DONE)
+                throw DBError(DBError::Kind::execFailed, errMsg());
+            sqlite3_reset(insert.get());
+        }
+    });
 }
 
 }  // namespace larkspan

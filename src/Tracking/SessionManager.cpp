@@ -86,6 +86,7 @@ void SessionManager::closeSession(Date now) {
     } else if (sessionID_ > 0) {
         db_.updateActivityEnd(sessionID_, now, duration);
     } else if (unstored_ && !tooShort) {
+        db_.reopenIfReadOnly();
         unstored_->endTime = now;
         unstored_->durationSeconds = duration;
         try {
@@ -133,6 +134,7 @@ void SessionManager::heartbeat() {
     if (sessionID_ > 0) {
         db_.updateActivityEnd(sessionID_, now, duration);
     } else if (unstored_) {
+        db_.reopenIfReadOnly();
         ActivityRecord retry = *unstored_;
         retry.endTime = now;
         retry.durationSeconds = duration;

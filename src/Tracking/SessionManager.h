@@ -13,7 +13,8 @@
 // The session is in one of three states: none (no sample yet), stored (a row belongs to it) or
 // unstored (its insert failed; equal samples are still ignored, and the insert is tried again at
 // each heartbeat and, with its end, when the session closes), so a busy or read-only store costs
-// no time once it takes writes again.
+// no time once it takes writes again. A store opened read-only is opened afresh before each retry,
+// so a file made writable again is written without a restart.
 //
 // Threads: everything here runs on the main thread, including the store calls, which wait for
 // the store's own queue. currentSession and pendingApprovalCount are assigned only by work posted to

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # What the tracker keeps when things go wrong around it: a frozen session bus at launch, a quit by
-# signal or by the tray, another program holding the database locked, a read-only database; and
-# what it exposes: its folders and files are the user's alone. Usage: robust-test.sh path/to/larkspan
+# signal or by the tray, another program holding the database locked, a read-only database that
+# becomes writable again; and what it exposes: its folders and files are the user's alone.
+# Usage: robust-test.sh path/to/larkspan
 set -euo pipefail
 larkspan=$1
 . "$(dirname "$0")/desktop-session.sh"
@@ -80,6 +81,13 @@ for window in "$terminal" "$other" "$editor"; do
     sleep 2
 done
 kill -0 "$tracker" || fail "the tracker stopped over a read-only database"
+# Writable again: the next closed session is stored without a restart, and nothing more is said.
+chmod 600 "$XDG_DATA_HOME/Larkspan/tracker.db"
+xdotool windowactivate --sync "$terminal"
+sleep 6
+xdotool windowactivate --sync "$other"
+recovered() { [ "$(db 'SELECT count(*) FROM activities WHERE app_name = '"'Shell'"' AND duration_seconds >= 5')" -gt 1 ]; }
+wait_until 5 recovered || fail "no row stored once the database took writes again: $(db 'SELECT app_name, duration_seconds FROM activities')"
 [ "$(grep -c 'Larkspan cannot save your activity: ' "$e2e_root/larkspan.log")" = 1 ] ||
     fail "the write failure was not reported exactly once"
 echo PASS

@@ -1,5 +1,5 @@
 // The Settings page's browser section: per browser, whether its extension reported in the last
-// minute, following the bridge as time passes.
+// minute, following the bridge as time passes while the view is shown.
 #include <QSignalSpy>
 #include <QTest>
 
@@ -43,6 +43,13 @@ private slots:
         model.refresh();
         QCOMPARE(changed.count(), 1);
         QCOMPARE(detail("Chromium"), QStringLiteral("No tab reported in the last minute"));
+
+        // The bridge is read on a timer only while the view is on screen.
+        QVERIFY(model.isRefreshing());
+        screen.window()->hide();
+        QVERIFY(!model.isRefreshing());
+        screen.window()->show();
+        QVERIFY(model.isRefreshing());
         BrowserBridgeStatusModel::share(nullptr);
     }
 };

@@ -8,7 +8,13 @@ import Larkspan
 ColumnLayout {
     id: root
 
+    // The model reads the bridge only while some view of it is on screen.
+    readonly property bool shown: visible && Window.visibility !== Window.Hidden
+
     spacing: 8
+    onShownChanged: BrowserBridgeStatusModel.setShown(root, shown)
+    Component.onCompleted: BrowserBridgeStatusModel.setShown(root, shown)
+    Component.onDestruction: BrowserBridgeStatusModel.setShown(root, false)
 
     Label {
         objectName: "browserBridgeTitle"

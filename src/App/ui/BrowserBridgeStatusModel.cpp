@@ -2,6 +2,7 @@
 
 #include <QQmlEngine>
 
+#include <algorithm>
 #include <cmath>
 
 #include "Platform/Linux/BrowserHostManifests.h"
@@ -14,7 +15,6 @@ BrowserBridgeStatusModel::BrowserBridgeStatusModel(std::shared_ptr<BrowserBridge
     rows_ = currentRows();
     timer_.setInterval(kRefreshMilliseconds);
     connect(&timer_, &QTimer::timeout, this, &BrowserBridgeStatusModel::refresh);
-    timer_.start();
 }
 
 BrowserBridgeStatusModel* BrowserBridgeStatusModel::create(QQmlEngine* engine, QJSEngine*) {
@@ -66,6 +66,25 @@ void BrowserBridgeStatusModel::refresh() {
         rows_[i] = fresh[i];
         const auto changed = index(static_cast<int>(i));
         emit dataChanged(changed, changed);
+    }
+}
+
+void BrowserBridgeStatusModel::setShown(QObject* view, bool shown) {
+    if (view == nullptr)
+        return;
+    const auto known = std::find(shownViews_.begin(), shownViews_.end(), view);
+    if (shown && known == shownViews_.end()) {
+        shownViews_.push_back(view);
+        connect(view, &QObject::destroyed, this, [this, view] { setShown(view, false); });
+    } else if (!shown && known != shownViews_.end()) {
+        shownViews_.erase(known);
+        disconnect(view, &QObject::destroyed, this, nullptr);
+    }
+    if (shownViews_.empty()) {
+        timer_.stop();
+    } else if (!timer_.isActive()) {
+        refresh();
+        timer_.start();
     }
 }
 

@@ -1,7 +1,7 @@
 // Per browser that Larkspan's extension supports, whether it reported a tab in the last minute: the
 // rows of the Settings page's browser section. Rows are fixed (one per browser, in the order of
-// bridgeBrowsers()); their state is read from the bridge every few seconds and only rows that
-// changed are announced.
+// bridgeBrowsers()); their state is read from the bridge every few seconds while a view shows them,
+// and only rows that changed are announced.
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
@@ -46,6 +46,10 @@ public:
 
     // Reads the bridge again; the timer calls it.
     void refresh();
+    // Each view tells when it is shown or hidden; the rows follow the bridge only while some view is
+    // shown, and are brought up to date as the first one shows. A destroyed view counts as hidden.
+    Q_INVOKABLE void setShown(QObject* view, bool shown);
+    bool isRefreshing() const { return timer_.isActive(); }
 
 private:
     struct Row {
@@ -57,6 +61,7 @@ private:
     std::shared_ptr<BrowserBridge> bridge_;
     const Clock& clock_;
     std::vector<Row> rows_;
+    std::vector<QObject*> shownViews_;
     QTimer timer_;
     static inline BrowserBridgeStatusModel* shared_ = nullptr;
 };

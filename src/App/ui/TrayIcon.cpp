@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 #include "Platform/Qt/SessionBus.h"
 
@@ -30,7 +31,14 @@ void TrayIcon::makeIcon() {
         if (reason == QSystemTrayIcon::Trigger)
             emit popoverToggleRequested();
     });
-    if (content_)
+    if (content_ && !picturesHeld_)
+        present();
+}
+
+void TrayIcon::releasePictures() {
+    if (!std::exchange(picturesHeld_, false))
+        return;
+    if (icon_ && content_)
         present();
 }
 
@@ -44,7 +52,7 @@ void TrayIcon::update(const StatusTitle& title) {
         return;
     content_ = content;
     toolTip_ = toolTip;
-    if (icon_)
+    if (icon_ && !picturesHeld_)
         present();
 }
 

@@ -2,7 +2,8 @@
 // popover on a left click and offers the context menu on a right click. A tray host may appear
 // after the application (at login): until one does the icon waits, and it shows once a host exists.
 // The icon first shows with the first title. Qt's tray asks the session bus synchronously, so the
-// icon is made only once the bus has answered (SessionBus); until then the title is kept.
+// icon is made only once the bus has answered (SessionBus); until then the title is kept. Pictures
+// may also be held back for a while (see holdPictures).
 #pragma once
 
 #include <QMenu>
@@ -31,6 +32,11 @@ public:
     explicit TrayIcon(QObject* parent = nullptr);
 
     void update(const StatusTitle& title);
+    // The first picture loads the colour emoji font, a tenth of a second: launch holds pictures back
+    // until tracking has stored its first session. Titles are kept meanwhile, the latest drawn at
+    // release. Releasing twice changes nothing.
+    void holdPictures() { picturesHeld_ = true; }
+    void releasePictures();
     bool isShown() const { return icon_ && icon_->isVisible(); }
     // Where the icon sits on screen; empty when the tray does not tell.
     QRect geometry() const { return icon_ ? icon_->geometry() : QRect(); }
@@ -68,6 +74,7 @@ private:
     std::function<std::vector<MenuItem>()> menuItems_;
     QPointer<StartAtLoginController> startAtLogin_;
     bool reportedNoHost_ = false;
+    bool picturesHeld_ = false;
 };
 
 }  // namespace larkspan
