@@ -5,6 +5,7 @@
 #include "FakeScriptRunner.h"
 #include "FakeWorkspace.h"
 #include "ManualClock.h"
+#include "Platform/TabScripts.h"
 
 namespace larkspan {
 namespace {
@@ -20,75 +21,28 @@ struct BrowserTrackerTest : ::testing::Test {
     BrowserTracker tracker{runner, workspace, clock};
 };
 
-TEST_F(BrowserTrackerTest, ScriptTextsAreExactAndTheGenericOneIsNamedAfterTheRunningApplication) {
-    EXPECT_EQ(tracker.tabScript("com.apple.Safari"), R"(tell application "Safari"
-    try
-        set u to URL of current tab of front window
-        set t to name of current tab of front window
-        return u & "|||" & t
-    on error
-        return "about:blank|||Safari"
-    end try
-end tell)");
-    EXPECT_EQ(tracker.tabScript("org.mozilla.firefox"), R"(tell application "Firefox"
-    try
-        set t to name of front window
-        return "firefox://active|||" & t
-    on error
-        return "firefox://active|||Firefox"
-    end try
-end tell)");
-    EXPECT_EQ(tracker.tabScript("company.thebrowser.Browser"), R"(tell application "Arc"
-    try
-        tell front window
-            set u to URL of active tab
-            set t to title of active tab
-            return u & "|||" & t
-        end tell
-    on error
-        return "about:blank|||Arc"
-    end try
-end tell)");
-    EXPECT_EQ(tracker.tabScript("com.kagi.kagimacOS"), R"(tell application "Orion"
-    try
-        set u to URL of current tab of front window
-        set t to name of current tab of front window
-        return u & "|||" & t
-    on error
-        return "about:blank|||Orion"
-    end try
-end tell)");
-
-    const std::string brave = R"(tell application "Brave Browser"
-    try
-        set u to URL of active tab of first window
-        set t to title of active tab of first window
-        return u & "|||" & t
-    on error
-        return "about:blank|||Brave Browser"
-    end try
-end tell)";
+// Each browser gets its family's script; a Chromium-family one names the running application, else
+// the family's default name.
+TEST_F(BrowserTrackerTest, EachBrowserGetsItsFamilysScriptNamedAfterTheRunningApplication) {
+    using Kind = TabScript::Kind;
     workspace.setRunning({{"org.gnome.Nautilus", "Files", 7}, {"com.brave.Browser", "Brave Browser", 8}});
-    EXPECT_EQ(tracker.tabScript("com.brave.Browser"), brave);
-
-    // Not running, or running without a name: the family's default name.
-    std::string chrome = brave;
-    for (auto at = chrome.find("Brave Browser"); at != std::string::npos; at = chrome.find("Brave Browser")) {
-        chrome.replace(at, 13, "Google Chrome");
-    }
-    EXPECT_EQ(tracker.tabScript("com.vivaldi.Vivaldi"), chrome);
+    const std::pair<const char*, TabScript> cases[] = {
+        {"com.apple.Safari", {Kind::safari, "Safari"}},
+        {"org.mozilla.firefox", {Kind::firefox, "Firefox"}},
+        {"company.thebrowser.Browser", {Kind::arc, "Arc"}},
+        {"com.kagi.kagimacOS", {Kind::orion, "Orion"}},
+        {"com.brave.Browser", {Kind::chromiumFamily, "Brave Browser"}},
+        {"com.vivaldi.Vivaldi", {Kind::chromiumFamily, "Google Chrome"}},
+    };
+    for (const auto& [bundle, expected] : cases)
+        EXPECT_EQ(recogniseTabScript(tracker.tabScript(bundle)), expected) << bundle;
     workspace.setRunning({{"com.vivaldi.Vivaldi", std::nullopt, 9}});
-    EXPECT_EQ(tracker.tabScript("com.vivaldi.Vivaldi"), chrome);
-}
-
-TEST_F(BrowserTrackerTest, TheTwelveBrowsersAreExactIdentifiers) {
+    EXPECT_EQ(tracker.tabScript("com.vivaldi.Vivaldi"), chromiumFamilyTabScript("Google Chrome"));
     EXPECT_EQ(BrowserTracker::browserBundleIDs().size(), 12u);
-    EXPECT_TRUE(BrowserTracker::isBrowser("com.google.Chrome.canary"));
-    EXPECT_TRUE(BrowserTracker::isBrowser("com.operasoftware.Opera"));
-    EXPECT_TRUE(BrowserTracker::isBrowser("com.kagi.kagimacOS"));
-    EXPECT_FALSE(BrowserTracker::isBrowser("com.google.chrome"));
-    EXPECT_FALSE(BrowserTracker::isBrowser("com.google.Chrome.dev"));
-    EXPECT_FALSE(BrowserTracker::isBrowser(""));
+    for (const char* id : {"com.google.Chrome.canary", "com.operasoftware.Opera", "com.kagi.kagimacOS"})
+        EXPECT_TRUE(BrowserTracker::isBrowser(id)) << id;
+    for (const char* id : {"com.google.chrome", "com.google.Chrome.dev", ""})
+        EXPECT_FALSE(BrowserTracker::isBrowser(id)) << id;
 }
 
 TEST_F(BrowserTrackerTest, AnAnswerIsServedFromTheCacheForStrictlyLessThanThreeSeconds) {
