@@ -1,32 +1,52 @@
-// The tracking road headless, with every seam a fake but the monitor's serial queue and the store.
-// MonitorRig: a scripted desktop captured by a monitor; the test thread plays the main thread.
-// TrackerRig adds a real store in a temporary folder, the rule engine and the session manager.
+// The tracker headless, every seam a fake; the test thread plays the main thread.
+// SessionRig: a real store in a temporary folder, the rule engine (counting its calls), the session
+// manager and the Pomodoro timer over it.
+// TrackerRig adds a scripted desktop captured by a monitor on its real serial queue.
 #pragma once
 
 #include <algorithm>
 #include <memory>
 #include <optional>
 
-#include "Classification/CategoryEngine.h"
+#include "CountingCategoryEngine.h"
 #include "Data/Database.h"
 #include "FakeScriptRunner.h"
 #include "FakeWorkspace.h"
+#include "Focus/PomodoroTimer.h"
 #include "ManualClock.h"
 #include "ManualMainQueue.h"
 #include "ManualTimerHub.h"
+#include "MemoryKeyValueStore.h"
 #include "Platform/NotificationCenter.h"
 #include "Platform/SerialQueue.h"
+#include "RecordingSoundPlayer.h"
 #include "TempDir.h"
 #include "Tracking/ActivityMonitor.h"
 #include "Tracking/SessionManager.h"
 
 namespace larkspan::test {
 
-struct MonitorRig {
+struct SessionRig {
+    explicit SessionRig(Date start = ManualClock().now()) : clock(start) {}
+
     ManualClock clock;
     const Date t0 = clock.now();
     ManualMainQueue mainQueue;
     ManualTimerHub timers{clock};
+    TempDir dir;
+    Database db{dir / "tracker.db"};
+    CountingCategoryEngine engine;
+    MemoryKeyValueStore defaults;
+    RecordingSoundPlayer sounds;
+    std::shared_ptr<SessionManager> manager = SessionManager::create(db, engine, clock, mainQueue, timers);
+    PomodoroTimer pomodoro{clock, defaults, sounds, timers};
+
+    std::vector<ActivityRecord> rows() { return db.fetchActivities(0, 4e9); }
+};
+
+struct TrackerRig : SessionRig {
+    using SessionRig::SessionRig;
+
     FakeWorkspace workspace;
     FakeScriptRunner scripts;
     NotificationCenter notifications;
@@ -34,10 +54,11 @@ struct MonitorRig {
     std::shared_ptr<ActivityMonitor> monitor =
         std::make_shared<ActivityMonitor>(workspace, scripts, clock, mainQueue, timers, notifications, bg);
 
-    // Lets the captures queued so far finish, then runs what they posted to the main thread.
+    // Lets the captures queued so far finish, then runs what they (and what they posted) posted.
     void settle() {
-        bg.sync([] {});
-        mainQueue.drain();
+        do {
+            bg.sync([] {});
+        } while (mainQueue.drain() > 0);
     }
     // Lets `seconds` pass in steps of at most one second, settling after each.
     void run(double seconds) {
@@ -56,15 +77,6 @@ struct MonitorRig {
         workspace.activate(app);
         settle();
     }
-};
-
-struct TrackerRig : MonitorRig {
-    TempDir dir;
-    Database db{dir / "tracker.db"};
-    CategoryEngine engine;
-    std::shared_ptr<SessionManager> manager = SessionManager::create(db, engine, clock, mainQueue, timers);
-
-    std::vector<ActivityRecord> rows() { return db.fetchActivities(0, 4e9); }
 };
 
 }  // namespace larkspan::test
