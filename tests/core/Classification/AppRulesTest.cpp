@@ -28,47 +28,39 @@ TEST(AppRules, BundleRowsArePrefixesTriedInOrderCaseSensitive) {
         EXPECT_EQ(classifyByBundleID(prefix + "Helper.2"), result);
         EXPECT_EQ(classifyByBundleID(prefix.substr(0, prefix.size() - 1)), nullopt);
         EXPECT_EQ(classifyByBundleID(upper(prefix)), nullopt);
-        if (lower(prefix) != prefix)
+        if (lower(prefix) != prefix) {
             EXPECT_EQ(classifyByBundleID(lower(prefix)), nullopt);
+        }
         EXPECT_EQ(classifyByBundleID("x" + prefix), nullopt);
     }
+    // clang-format off
     const std::pair<const char*, std::optional<R>> cases[] = {
-        {"com.apple.dt.Xcode", R{1, 0.99}},
-        {"com.jetbrains.pycharm", R{1, 0.97}},
-        {"com.microsoft.rdc.macos", R{1, 0.75}},
-        {"net.kovidgoyal.kitty", R{2, 0.99}},
-        {"com.readdle.PDFExpert-Mac", R{10, 0.88}},
-        {"com.tinyspeck.slackmacgap", R{6, 0.97}},
-        {"com.apple.mail", R{5, 0.99}},
-        {"com.apple.reminders", R{7, 0.92}},
-        {"com.canva.CanvaDesktop", R{8, 0.85}},
-        {"org.videolan.vlc", R{16, 0.80}},
-        {"com.apple.TVRemote", R{16, 0.99}},
-        {"com.spotify.client", R{12, 0.95}},
-        {"com.apple.Console", R{13, 0.99}},
-        {"com.apple.Photos", R{14, 0.85}},
-        {"com.valvesoftware.steam", R{19, 0.92}},
-        {"", nullopt},
+        {"com.apple.dt.Xcode", R{1, 0.99}},        {"com.jetbrains.pycharm", R{1, 0.97}},
+        {"com.microsoft.rdc.macos", R{1, 0.75}},   {"net.kovidgoyal.kitty", R{2, 0.99}},
+        {"com.readdle.PDFExpert-Mac", R{10, 0.88}}, {"com.tinyspeck.slackmacgap", R{6, 0.97}},
+        {"com.apple.mail", R{5, 0.99}},            {"com.apple.reminders", R{7, 0.92}},
+        {"com.canva.CanvaDesktop", R{8, 0.85}},    {"org.videolan.vlc", R{16, 0.80}},
+        {"com.apple.TVRemote", R{16, 0.99}},       {"com.spotify.client", R{12, 0.95}},
+        {"com.apple.Console", R{13, 0.99}},        {"com.apple.Photos", R{14, 0.85}},
+        {"com.valvesoftware.steam", R{19, 0.92}},  {"", nullopt},
         {"org.gnome.Nautilus", nullopt},
     };
+    // clang-format on
     for (const auto& [id, expected] : cases)
         EXPECT_EQ(classifyByBundleID(id), expected) << id;
 }
 
 TEST(AppRules, RoleIdentifiersClassifyLikeTheBundleRowOfTheirRole) {
+    // clang-format off
     const std::pair<std::string_view, std::string_view> roles[] = {
-        {app_role::terminal, "com.apple.Terminal"},
-        {app_role::mail, "com.apple.mail"},
-        {app_role::calendar, "com.apple.iCal"},
-        {app_role::tasks, "com.apple.reminders"},
-        {app_role::notes, "com.apple.Notes"},
-        {app_role::music, "com.apple.Music"},
-        {app_role::video, "com.apple.TV"},
-        {app_role::settings, "com.apple.systempreferences"},
-        {app_role::monitor, "com.apple.ActivityMonitor"},
-        {app_role::logs, "com.apple.Console"},
-        {app_role::files, "com.apple.finder"},
-        {app_role::photos, "com.apple.Photos"}};
+        {app_role::terminal, "com.apple.Terminal"}, {app_role::mail, "com.apple.mail"},
+        {app_role::calendar, "com.apple.iCal"},     {app_role::tasks, "com.apple.reminders"},
+        {app_role::notes, "com.apple.Notes"},       {app_role::music, "com.apple.Music"},
+        {app_role::video, "com.apple.TV"},          {app_role::settings, "com.apple.systempreferences"},
+        {app_role::monitor, "com.apple.ActivityMonitor"}, {app_role::logs, "com.apple.Console"},
+        {app_role::files, "com.apple.finder"},      {app_role::photos, "com.apple.Photos"},
+    };
+    // clang-format on
     for (const auto& [role, row] : roles)
         EXPECT_EQ(classifyByBundleID(role), classifyByBundleID(row)) << role;
 }
@@ -90,25 +82,16 @@ TEST(AppRules, NameKeywordsReachTheirGroupAndEarlierGroupsWin) {
             EXPECT_EQ(classifyByAppName(name), expected) << name;
         }
     }
+    // clang-format off
     const std::pair<std::string, std::optional<R>> cases[] = {
-        {"PyCharm", R{1, 0.90}},
-        {"Hyperion", R{2, 0.90}},
-        {"Microsoft Teams", R{6, 0.85}},
-        {"Thunderbird Mail", R{5, 0.85}},
-        {"Mail Notes", R{5, 0.85}},
-        {"Todoist", R{7, 0.80}},
-        {"Affinity Photo", R{8, 0.85}},
-        {"Logseq", R{3, 0.80}},
-        {"Tidal", R{12, 0.85}},
-        {"IINA", R{16, 0.80}},
-        {"Finder", R{14, 0.90}},
-        {"Epic Games", R{19, 0.88}},
-        {"Safari", R{21, 0.40}},
-        {"Research Assistant", R{21, 0.40}},  // "arc"
-        {"GNOME Text Editor", nullopt},
-        {"Preview", nullopt},
-        {"", nullopt},
+        {"PyCharm", R{1, 0.90}},          {"Hyperion", R{2, 0.90}},      {"Microsoft Teams", R{6, 0.85}},
+        {"Thunderbird Mail", R{5, 0.85}}, {"Mail Notes", R{5, 0.85}},    {"Todoist", R{7, 0.80}},
+        {"Affinity Photo", R{8, 0.85}},   {"Logseq", R{3, 0.80}},        {"Tidal", R{12, 0.85}},
+        {"IINA", R{16, 0.80}},            {"Finder", R{14, 0.90}},       {"Epic Games", R{19, 0.88}},
+        {"Safari", R{21, 0.40}},          {"Research Assistant", R{21, 0.40}},  // "arc"
+        {"GNOME Text Editor", nullopt},   {"Preview", nullopt},          {"", nullopt},
     };
+    // clang-format on
     for (const auto& [name, expected] : cases)
         EXPECT_EQ(classifyByAppName(name), expected) << name;
 }
@@ -121,21 +104,15 @@ TEST(AppRules, SourceFileExtensionAnywhereInTheTitleMeansCoding) {
         EXPECT_EQ(classifyByWindowTitle(upper("MAIN" + std::string(extension) + " - Editor"), ""), coding)
             << extension;
     }
+    // clang-format off
     const std::pair<std::string, std::optional<R>> cases[] = {
-        {"main.swift", coding},
-        {"x.toml", coding},
-        {"App.tsx", coding},
+        {"main.swift", coding},  {"x.toml", coding},       {"App.tsx", coding},
         {"example.com - Notes", coding},  // ".c" in front of further letters
-        {"index.html", coding},
-        {"a..rs", coding},
-        {"Report.pdf", nullopt},
-        {"README.md", nullopt},
-        {"Budget.xlsx", nullopt},
-        {"Wait.", nullopt},
-        {"main rs", nullopt},
-        {".", nullopt},
-        {"", nullopt},
+        {"index.html", coding},  {"a..rs", coding},        {"Report.pdf", nullopt},
+        {"README.md", nullopt},  {"Budget.xlsx", nullopt}, {"Wait.", nullopt},
+        {"main rs", nullopt},    {".", nullopt},           {"", nullopt},
     };
+    // clang-format on
     for (const auto& [title, expected] : cases)
         EXPECT_EQ(classifyByWindowTitle(title, "Editor"), expected) << title;
 }

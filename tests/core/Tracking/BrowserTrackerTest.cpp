@@ -2,23 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include "FakeScriptRunner.h"
-#include "FakeWorkspace.h"
-#include "ManualClock.h"
 #include "Platform/TabScripts.h"
+#include "TrackerRig.h"
 
 namespace larkspan {
 namespace {
 
-using test::FakeScriptRunner;
-using test::FakeWorkspace;
-using test::ManualClock;
-
-struct BrowserTrackerTest : ::testing::Test {
-    FakeScriptRunner runner;
-    FakeWorkspace workspace;
-    ManualClock clock;
-    BrowserTracker tracker{runner, workspace, clock};
+struct BrowserTrackerTest : ::testing::Test, test::TrackerRig {
+    BrowserTracker tracker{scripts, workspace, clock};
 };
 
 // Each browser gets its family's script; a Chromium-family one names the running application, else
@@ -46,35 +37,35 @@ TEST_F(BrowserTrackerTest, EachBrowserGetsItsFamilysScriptNamedAfterTheRunningAp
 }
 
 TEST_F(BrowserTrackerTest, AnAnswerIsServedFromTheCacheForStrictlyLessThanThreeSeconds) {
-    runner.answerAlways("https://example.com/|||Example");
+    scripts.answerAlways("https://example.com/|||Example");
     ASSERT_TRUE(tracker.getActiveTab("com.apple.Safari"));
     clock.advance(2.9);
     EXPECT_EQ(tracker.getActiveTab("com.apple.Safari")->domain, "example.com");
-    EXPECT_EQ(runner.runCount(), 1);
+    EXPECT_EQ(scripts.runCount(), 1);
 
     clock.advance(0.1);  // 3.0 s after the fetch
     ASSERT_TRUE(tracker.getActiveTab("com.apple.Safari"));
-    EXPECT_EQ(runner.runCount(), 2);
+    EXPECT_EQ(scripts.runCount(), 2);
     // Each browser has its own entry.
     ASSERT_TRUE(tracker.getActiveTab("com.google.Chrome"));
-    EXPECT_EQ(runner.runCount(), 3);
+    EXPECT_EQ(scripts.runCount(), 3);
 }
 
 TEST_F(BrowserTrackerTest, AStaleEntryIsNotServedAfterAFailedFetch) {
-    runner.answerAlways("https://example.com/|||Example");
+    scripts.answerAlways("https://example.com/|||Example");
     ASSERT_TRUE(tracker.getActiveTab("com.apple.Safari"));
-    runner.answerAlways(std::nullopt);
+    scripts.answerAlways(std::nullopt);
     clock.advance(1.0);
     EXPECT_TRUE(tracker.getActiveTab("com.apple.Safari"));  // still fresh
     clock.advance(2.5);
     EXPECT_FALSE(tracker.getActiveTab("com.apple.Safari"));
     EXPECT_FALSE(tracker.getActiveTab("com.apple.Safari"));
-    EXPECT_EQ(runner.runCount(), 3);
+    EXPECT_EQ(scripts.runCount(), 3);
 }
 
 TEST_F(BrowserTrackerTest, AnswersAreSplitAtTheSeparatorAndTrimmed) {
     const auto tabFor = [&](std::optional<std::string> answer) {
-        runner.answerAlways(std::move(answer));
+        scripts.answerAlways(std::move(answer));
         clock.advance(10);
         return tracker.getActiveTab("com.google.Chrome");
     };
@@ -98,20 +89,20 @@ TEST_F(BrowserTrackerTest, AnswersAreSplitAtTheSeparatorAndTrimmed) {
 }
 
 TEST_F(BrowserTrackerTest, ScriptsAreCompiledOncePerTextAndFailedCompilesAreRetried) {
-    runner.answerAlways("about:blank|||New Tab");
+    scripts.answerAlways("about:blank|||New Tab");
     // Neither browser runs, so both use the same default text.
     ASSERT_TRUE(tracker.getActiveTab("com.google.Chrome"));
     ASSERT_TRUE(tracker.getActiveTab("com.microsoft.edgemac"));
     clock.advance(5);
     ASSERT_TRUE(tracker.getActiveTab("com.google.Chrome"));
-    EXPECT_EQ(runner.compileCount(), 1);
-    EXPECT_EQ(runner.runCount(), 3);
+    EXPECT_EQ(scripts.compileCount(), 1);
+    EXPECT_EQ(scripts.runCount(), 3);
 
-    runner.refuseCompiles(true);
+    scripts.refuseCompiles(true);
     EXPECT_FALSE(tracker.getActiveTab("com.apple.Safari"));
-    runner.refuseCompiles(false);
+    scripts.refuseCompiles(false);
     EXPECT_TRUE(tracker.getActiveTab("com.apple.Safari"));
-    EXPECT_EQ(runner.compileCount(), 3);
+    EXPECT_EQ(scripts.compileCount(), 3);
 }
 
 TEST(BrowserTrackerDomain, HostWithoutLeadingWwwElseTheTextUnchanged) {
