@@ -1,7 +1,7 @@
 // The tracker headless, every seam a fake; the test thread plays the main thread.
-// SessionRig: a real store in a temporary folder, the rule engine (counting its calls), the session
-// manager and the Pomodoro timer over it.
-// TrackerRig adds a scripted desktop captured by a monitor on its real serial queue.
+// MonitorRig: a scripted desktop captured by a monitor on its real serial queue.
+// TrackerRig adds a real store in a temporary folder, the rule engine (counting its calls), the session
+// manager and the Pomodoro timer over it; the monitor stays idle until a test starts it.
 #pragma once
 
 #include <algorithm>
@@ -26,27 +26,13 @@
 
 namespace larkspan::test {
 
-struct SessionRig {
-    explicit SessionRig(Date start = ManualClock().now()) : clock(start) {}
+struct MonitorRig {
+    explicit MonitorRig(Date start = ManualClock().now()) : clock(start) {}
 
     ManualClock clock;
     const Date t0 = clock.now();
     ManualMainQueue mainQueue;
     ManualTimerHub timers{clock};
-    TempDir dir;
-    Database db{dir / "tracker.db"};
-    CountingCategoryEngine engine;
-    MemoryKeyValueStore defaults;
-    RecordingSoundPlayer sounds;
-    std::shared_ptr<SessionManager> manager = SessionManager::create(db, engine, clock, mainQueue, timers);
-    PomodoroTimer pomodoro{clock, defaults, sounds, timers};
-
-    std::vector<ActivityRecord> rows() { return db.fetchActivities(0, 4e9); }
-};
-
-struct TrackerRig : SessionRig {
-    using SessionRig::SessionRig;
-
     FakeWorkspace workspace;
     FakeScriptRunner scripts;
     NotificationCenter notifications;
@@ -77,6 +63,20 @@ struct TrackerRig : SessionRig {
         workspace.activate(app);
         settle();
     }
+};
+
+struct TrackerRig : MonitorRig {
+    using MonitorRig::MonitorRig;
+
+    TempDir dir;
+    Database db{dir / "tracker.db"};
+    CountingCategoryEngine engine;
+    MemoryKeyValueStore defaults;
+    RecordingSoundPlayer sounds;
+    std::shared_ptr<SessionManager> manager = SessionManager::create(db, engine, clock, mainQueue, timers);
+    PomodoroTimer pomodoro{clock, defaults, sounds, timers};
+
+    std::vector<ActivityRecord> rows() { return db.fetchActivities(0, 4e9); }
 };
 
 }  // namespace larkspan::test

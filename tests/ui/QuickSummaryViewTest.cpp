@@ -31,8 +31,8 @@ struct BerlinZone {
 };
 
 // One day's tracker over its own database, with the clock at 11:30 on a Tuesday.
-struct Day : BerlinZone, test::SessionRig {
-    Day() : SessionRig(test::localInstant(2026, 3, 10, 11, 30)) {}
+struct Day : BerlinZone, test::TrackerRig {
+    Day() : TrackerRig(test::localInstant(2026, 3, 10, 11, 30)) {}
 
     QuickSummaryController controller{db, *manager, pomodoro, clock};
 

@@ -269,7 +269,8 @@ TEST_F(AppDelegateTest, StoppingEndsTheOpenRowAndWriteFailuresAreReportedOnceAnH
     }
     ASSERT_EQ(notifier.sent.size(), 2u);
     EXPECT_EQ(notifier.sent[0].id, notifier.sent[1].id);  // the second replaces the first
-    EXPECT_EQ(notifier.sent[0].title, "Larkspan cannot save your activity: attempt to write a readonly db");
+    EXPECT_EQ(notifier.sent[0].title,
+              "Larkspan cannot save your activity: attempt to write a readonly database");
 }
 
 }  // namespace

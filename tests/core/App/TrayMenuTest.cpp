@@ -13,7 +13,7 @@ namespace {
 
 using namespace test;
 
-struct TrayMenuTest : ::testing::Test, SessionRig {
+struct TrayMenuTest : ::testing::Test, TrackerRig {
     RecordingPresenter presenter;
 
     std::string lastTitle() const { return presenter.titles.back().plainText(); }

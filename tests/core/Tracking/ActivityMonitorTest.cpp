@@ -14,7 +14,7 @@ const RunningApplication kTerminal{"org.gnome.Terminal", "Terminal", 10};
 const RunningApplication kEditor{"org.gnome.TextEditor", "Text Editor", 11};
 const RunningApplication kChrome{"com.google.Chrome", "Google Chrome", 20};
 
-struct ActivityMonitorTest : ::testing::Test, test::TrackerRig {
+struct ActivityMonitorTest : ::testing::Test, test::MonitorRig {
     std::vector<std::optional<RawActivity>> published;
     std::vector<double> returns;
     std::vector<std::thread::id> publishingThreads;

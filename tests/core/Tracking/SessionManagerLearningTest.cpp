@@ -17,7 +17,7 @@ RawActivity application(std::string name, std::optional<std::string> bundleID = 
     return RawActivity{std::move(name), std::move(bundleID), std::nullopt, std::nullopt, std::nullopt};
 }
 
-struct SessionManagerLearningTest : ::testing::Test, SessionRig {
+struct SessionManagerLearningTest : ::testing::Test, TrackerRig {
     // Runs `sample` as a session of `seconds`, closed by a sample of another application; returns
     // its row id.
     std::int64_t visit(const RawActivity& sample, double seconds = 40) {

@@ -33,7 +33,7 @@ RawActivity away(double idleSeconds) {
 const RawActivity kKitty = app("kitty", "net.kovidgoyal.kitty", "~/src");  // Terminal at 0.99
 const RawActivity kMystery = app("Zqx", "org.example.Zqx");                // Other at 0.3: asks
 
-struct SessionManagerTest : ::testing::Test, SessionRig {
+struct SessionManagerTest : ::testing::Test, TrackerRig {
     std::vector<std::optional<ActivityRecord>> sessions;
     Subscription sessionSub =
         manager->currentSession.subscribe([this](const auto& s) { sessions.push_back(s); });
