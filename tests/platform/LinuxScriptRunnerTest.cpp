@@ -104,38 +104,19 @@ TEST(LinuxScriptRunner, TheBridgeAnswersOnlyForTheFrontBrowsersAgreeingTab) {
         std::optional<std::string> chromiumAnswer;
         std::string firefoxAnswer;
     };
+    const std::string match = "https://github.com/x|||x: Issues";
+    const std::string docs = "firefox://active|||Docs \u2014 Mozilla Firefox";
+    const BrowserTabReport privateTab{700, "chromium", true, "", "", 10};
+    // clang-format off
     const std::vector<Case> cases = {
-        {"fresh and matching",
-         {700, "x: Issues - Chromium"},
-         github,
-         "https://github.com/x|||x: Issues",
-         "https://github.com/x|||x: Issues"},
-        {"stale: the window shows another tab",
-         {700, "Inbox - Chromium"},
-         github,
-         std::nullopt,
-         "firefox://active|||Docs \u2014 Mozilla Firefox"},
-        {"another browser's report",
-         {701, "x: Issues - Chromium"},
-         github,
-         std::nullopt,
-         "firefox://active|||Docs \u2014 Mozilla Firefox"},
-        {"a private tab",
-         {700, "x: Issues - Chromium"},
-         {700, "chromium", true, "", "", 10},
-         std::nullopt,
-         "firefox://active|||Docs \u2014 Mozilla Firefox"},
-        {"no owner named: the title picks the report",
-         {0, "x: Issues - Chromium"},
-         github,
-         "https://github.com/x|||x: Issues",
-         "https://github.com/x|||x: Issues"},
-        {"no owner named and no report agrees",
-         {0, "Inbox - Chromium"},
-         github,
-         std::nullopt,
-         "firefox://active|||Docs \u2014 Mozilla Firefox"},
+        {"fresh and matching",                      {700, "x: Issues - Chromium"}, github,     match,        match},
+        {"stale: the window shows another tab",     {700, "Inbox - Chromium"},     github,     std::nullopt, docs},
+        {"another browser's report",                {701, "x: Issues - Chromium"}, github,     std::nullopt, docs},
+        {"a private tab",                           {700, "x: Issues - Chromium"}, privateTab, std::nullopt, docs},
+        {"no owner named: the title picks the report", {0, "x: Issues - Chromium"}, github,    match,        match},
+        {"no owner named and no report agrees",     {0, "Inbox - Chromium"},       github,     std::nullopt, docs},
     };
+    // clang-format on
     for (const auto& c : cases) {
         windows->front = c.front;
         bridge->setReports({c.report});

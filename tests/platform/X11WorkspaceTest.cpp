@@ -128,23 +128,20 @@ TEST_F(X11WorkspaceTest, ReportsTheFrontmostApplicationAndItsWindowTitle) {
         running.emplace(app.bundleID.value_or(""), app.pid);
     EXPECT_TRUE(running.count({"LarkspanAlpha", alpha}));
     EXPECT_TRUE(running.count({"larkspan-beta", beta}));
-}
 
-TEST_F(X11WorkspaceTest, ATitleThatChangesWhileFocusedIsReadAfresh) {
+    // A title that changes while focused is read afresh.
     test::TempDir dir;
     const auto flag = (dir / "flag").string();
-    const pid_t pid = xterm("LarkspanRetitled", "Before",
-                            "while [ ! -e '" + flag + "' ]; do sleep 0.02; done; printf '\\033]2;%s\\007' '" +
-                                "After \xE2\x9C\x93 \xF0\x9F\x9A\x80" + "'; exec sleep 600");
-    const auto window = windowOf("LarkspanRetitled");
-    auto workspace = makeWorkspace();
-    bringToFront(*workspace, window, "LarkspanRetitled");
-    EXPECT_EQ(workspace->focusedWindowTitle(pid), "Before");
-
+    const std::string after = "After \xE2\x9C\x93 \xF0\x9F\x9A\x80";
+    const pid_t retitled =
+        xterm("LarkspanRetitled", "Before",
+              "while [ ! -e '" + flag + "' ]; do sleep 0.02; done; printf '\\033]2;%s\\007' '" + after +
+                  "'; exec sleep 600");
+    bringToFront(*workspace, windowOf("LarkspanRetitled"), "LarkspanRetitled");
+    EXPECT_EQ(workspace->focusedWindowTitle(retitled), "Before");
     std::ofstream(flag) << "go";
-    EXPECT_TRUE(test::waitUntil([&] {
-        return workspace->focusedWindowTitle(pid) == "After \xE2\x9C\x93 \xF0\x9F\x9A\x80";
-    })) << workspace->focusedWindowTitle(pid).value_or("(none)");
+    EXPECT_TRUE(test::waitUntil([&] { return workspace->focusedWindowTitle(retitled) == after; }))
+        << workspace->focusedWindowTitle(retitled).value_or("(none)");
 }
 
 TEST_F(X11WorkspaceTest, ActivationFiresOncePerApplicationNotPerWindow) {
@@ -234,16 +231,6 @@ TEST_F(X11WorkspaceTest, ADialogBelongsToItsMainWindowsApplication) {
     EXPECT_EQ(frontmostID(*workspace), "larkspan-beta");
 }
 
-TEST_F(X11WorkspaceTest, IdleSecondsGrowWhileNothingHappensAndDropAfterInput) {
-    auto workspace = makeWorkspace();
-    display->run({"xdotool", "mousemove", "10", "10"});
-    double idle = 0;
-    ASSERT_TRUE(test::waitUntil([&] { return (idle = workspace->secondsSinceLastInput()) >= 1.0; }, 3000ms))
-        << idle;
-    display->run({"xdotool", "mousemove", "300", "200"});
-    EXPECT_LT(workspace->secondsSinceLastInput(), idle);
-}
-
 TEST_F(X11WorkspaceTest, FirefoxScriptIsAnsweredWithFirefoxsFrontWindow) {
     auto workspace = makeWorkspace();
     LinuxScriptRunner runner(workspace);
@@ -303,9 +290,17 @@ TEST_F(X11WorkspaceWithoutScreenSaverTest, IdleIsZeroAndTrackingGoesOn) {
     EXPECT_EQ(workspace->secondsSinceLastInput(), 0);
 }
 
-TEST_F(X11WorkspaceTest, WindowsCanBeReadOnlyInAnX11Session) {
+TEST_F(X11WorkspaceTest, WindowsAndIdleTimeCanBeReadOnlyInAnX11Session) {
     auto x11 = makeWorkspace();
     EXPECT_TRUE(x11->canReadWindows());
+    // Idle seconds grow while nothing happens and drop after input.
+    display->run({"xdotool", "mousemove", "10", "10"});
+    double idle = 0;
+    ASSERT_TRUE(test::waitUntil([&] { return (idle = x11->secondsSinceLastInput()) >= 1.0; }, 3000ms))
+        << idle;
+    display->run({"xdotool", "mousemove", "300", "200"});
+    EXPECT_LT(x11->secondsSinceLastInput(), idle);
+
     // XWayland is not trusted: nothing is reported even though an X server answers.
     xterm("LarkspanAlpha", "Alpha");
     bringToFront(*x11, windowOf("LarkspanAlpha"), "LarkspanAlpha");

@@ -1,21 +1,25 @@
-// The tracking road headless, with every seam a fake but the monitor's serial queue and the store.
-// MonitorRig: a scripted desktop captured by a monitor; the test thread plays the main thread.
-// TrackerRig adds a real store in a temporary folder, the rule engine and the session manager.
+// The tracker headless, every seam a fake; the test thread plays the main thread.
+// MonitorRig: a scripted desktop captured by a monitor on its real serial queue.
+// TrackerRig adds a real store in a temporary folder, the rule engine (counting its calls), the session
+// manager and the Pomodoro timer over it; the monitor stays idle until a test starts it.
 #pragma once
 
 #include <algorithm>
 #include <memory>
 #include <optional>
 
-#include "Classification/CategoryEngine.h"
+#include "CountingCategoryEngine.h"
 #include "Data/Database.h"
 #include "FakeScriptRunner.h"
 #include "FakeWorkspace.h"
+#include "Focus/PomodoroTimer.h"
 #include "ManualClock.h"
 #include "ManualMainQueue.h"
 #include "ManualTimerHub.h"
+#include "MemoryKeyValueStore.h"
 #include "Platform/NotificationCenter.h"
 #include "Platform/SerialQueue.h"
+#include "RecordingSoundPlayer.h"
 #include "TempDir.h"
 #include "Tracking/ActivityMonitor.h"
 #include "Tracking/SessionManager.h"
@@ -23,6 +27,8 @@
 namespace larkspan::test {
 
 struct MonitorRig {
+    explicit MonitorRig(Date start = ManualClock().now()) : clock(start) {}
+
     ManualClock clock;
     const Date t0 = clock.now();
     ManualMainQueue mainQueue;
@@ -34,10 +40,11 @@ struct MonitorRig {
     std::shared_ptr<ActivityMonitor> monitor =
         std::make_shared<ActivityMonitor>(workspace, scripts, clock, mainQueue, timers, notifications, bg);
 
-    // Lets the captures queued so far finish, then runs what they posted to the main thread.
+    // Lets the captures queued so far finish, then runs what they (and what they posted) posted.
     void settle() {
-        bg.sync([] {});
-        mainQueue.drain();
+        do {
+            bg.sync([] {});
+        } while (mainQueue.drain() > 0);
     }
     // Lets `seconds` pass in steps of at most one second, settling after each.
     void run(double seconds) {
@@ -59,10 +66,15 @@ struct MonitorRig {
 };
 
 struct TrackerRig : MonitorRig {
+    using MonitorRig::MonitorRig;
+
     TempDir dir;
     Database db{dir / "tracker.db"};
-    CategoryEngine engine;
+    CountingCategoryEngine engine;
+    MemoryKeyValueStore defaults;
+    RecordingSoundPlayer sounds;
     std::shared_ptr<SessionManager> manager = SessionManager::create(db, engine, clock, mainQueue, timers);
+    PomodoroTimer pomodoro{clock, defaults, sounds, timers};
 
     std::vector<ActivityRecord> rows() { return db.fetchActivities(0, 4e9); }
 };

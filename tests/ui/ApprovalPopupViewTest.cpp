@@ -52,23 +52,15 @@ private slots:
         QVERIFY(screen.loadCard(QStringLiteral("ApprovalPopupView"), &controller));
         QCOMPARE(screen.text("activityTitle"), QStringLiteral("Quarterly plan.odt"));
         QCOMPARE(screen.text("countdown"), QStringLiteral("45s"));
-        QVERIFY(controller.counting());
-        for (int i = 0; i < 6; ++i)
-            QVERIFY(screen.find(QStringLiteral("category-%1").arg(i)));
-        QCOMPARE(screen.find("category-1")->property("text").toString(), QStringLiteral("Learning"));
-        for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
-            screen.setColorScheme(scheme);
-            QVERIFY(screen.saveScreenshot("approval", "six"));
-        }
+        QVERIFY(screen.find("category-5") && !screen.find("category-6"));
+        QCOMPARE(screen.text("category-1"), QStringLiteral("Learning"));
+        QVERIFY(screen.saveScreenshots("approval", "six"));
         // Brought to the keyboard, the card rings the focused answer.
         QVERIFY(screen.focusByKeyboard("category-5"));
         QTest::keyClick(screen.window(), Qt::Key_Left);
         QVERIFY(screen.find("category-4")->hasActiveFocus());
         QVERIFY(screen.focusByKeyboard("category-0"));
-        for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
-            screen.setColorScheme(scheme);
-            QVERIFY(screen.saveScreenshot("approval", "focus-ring"));
-        }
+        QVERIFY(screen.saveScreenshots("approval", "focus-ring"));
         QVERIFY(screen.press("category-1"));
         QCOMPARE(answers, Answers{4});
         QVERIFY(!controller.counting());
@@ -131,27 +123,18 @@ private slots:
         // After the controllers, so that the views go first.
         QuickScreen screen;
         QVERIFY(screen.loadCard(QStringLiteral("ApprovalPopupView"), &controller));
-        QVERIFY(screen.find("category-1"));
         QVERIFY(!screen.find("category-2"));
-        QCOMPARE(screen.find("category-1")->property("text").toString(), QStringLiteral("AI Tools"));
-        QCOMPARE(controller.menuCategories()->count(), 19);
-        for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
-            screen.setColorScheme(scheme);
-            QVERIFY(screen.saveScreenshot("approval", "two"));
-        }
+        QCOMPARE(screen.text("category-1"), QStringLiteral("AI Tools"));
+        QVERIFY(screen.saveScreenshots("approval", "two"));
 
         QVERIFY(screen.click("more"));
         QQuickItem* overlay = screen.window()->contentItem();
         QTRY_VERIFY(findItem(overlay, "menu-0") && findItem(overlay, "menu-0")->isVisible());
         QCOMPARE(findItem(overlay, "menu-0")->property("text").toString(),
                  QStringLiteral("\U0001F4BB Coding"));
-        QVERIFY(findItem(overlay, "menu-18"));
-        QVERIFY(!findItem(overlay, "menu-19"));
+        QVERIFY(findItem(overlay, "menu-18") && !findItem(overlay, "menu-19"));
         QTest::qWait(100);
-        for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
-            screen.setColorScheme(scheme);
-            QVERIFY(screen.saveScreenshot("approval", "more-menu"));
-        }
+        QVERIFY(screen.saveScreenshots("approval", "more-menu"));
         clickItem(screen.window(), findItem(overlay, "menu-1"));
         QCOMPARE(answers, Answers{2});
     }
@@ -186,10 +169,7 @@ private slots:
             QVERIFY2(box.top() >= 14 && box.bottom() <= card->height() - 14,
                      qPrintable(QStringLiteral("%1: %2..%3").arg(row).arg(box.top()).arg(box.bottom())));
         }
-        for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
-            screen.setColorScheme(scheme);
-            QVERIFY(screen.saveScreenshot("approval", "long-names"));
-        }
+        QVERIFY(screen.saveScreenshots("approval", "long-names"));
     }
 
     void presenterShowsItFloatingAndClosesItOnTheAnswer() {
@@ -204,16 +184,9 @@ private slots:
         QPointer<FloatingWindow> window = presenter.approvalWindow();
         QVERIFY(window && window->view());
         QVERIFY(QTest::qWaitForWindowExposed(window));
-        // Without a screen the window stays where it is.
+        // A card never takes the keyboard from the application the user works in.
+        QVERIFY(window->flags().testFlag(Qt::WindowDoesNotAcceptFocus));
         QCOMPARE(FloatingWindow::bottomRightPosition(nullptr, {340, 200}, {5, 6}), QPoint(5, 6));
-        const Qt::WindowFlags flags = window->flags();
-        QVERIFY(flags.testFlag(Qt::WindowDoesNotAcceptFocus));
-        QVERIFY(flags.testFlag(Qt::WindowStaysOnTopHint));
-        QVERIFY(flags.testFlag(Qt::FramelessWindowHint));
-        QCOMPARE(flags & Qt::WindowType_Mask, Qt::Tool);
-        QCOMPARE(window->title(), QStringLiteral("Larkspan \u2014 Quick check-in"));
-        QCOMPARE(window->color(), QColor(Qt::transparent));
-        QCOMPARE(window->size(), QSize(340, 200));
         const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
         QCOMPARE(window->position(), QPoint(area.right() + 1 - 20 - 340, area.bottom() + 1 - 20 - 200));
 

@@ -5,17 +5,9 @@
 #include <gtest/gtest.h>
 
 #include "ActivityBuilder.h"
-#include "FakeScriptRunner.h"
-#include "FakeWorkspace.h"
-#include "ManualClock.h"
-#include "ManualMainQueue.h"
-#include "ManualTimerHub.h"
-#include "MemoryKeyValueStore.h"
-#include "Platform/SerialQueue.h"
 #include "RecordingNotifier.h"
 #include "RecordingPresenter.h"
-#include "RecordingSoundPlayer.h"
-#include "TempDir.h"
+#include "TrackerRig.h"
 
 namespace larkspan {
 namespace {
@@ -25,43 +17,29 @@ using namespace test;
 constexpr Date kStart = 1'790'000'000;  // 2026-09-21, a Monday
 const RunningApplication kTerminal{"org.gnome.Terminal", "Terminal", 10};
 
-struct AppDelegateTest : ::testing::Test {
-    TempDir dir;
-    Database database{dir.path() / "tracker.db"};
-    ManualClock clock{kStart};
-    ManualMainQueue mainQueue;
-    ManualTimerHub timers{clock};
-    MemoryKeyValueStore defaults;
-    RecordingSoundPlayer sounds;
+// The rig's own manager and monitor stay idle; the delegate makes and runs its own.
+struct AppDelegateTest : ::testing::Test, TrackerRig {
+    AppDelegateTest() : TrackerRig(kStart) {}
+
     RecordingNotifier notifier;
-    NotificationCenter notifications;
-    FakeWorkspace workspace;
-    FakeScriptRunner scripts;
-    SerialQueue monitorQueue{kMonitorQueueLabel};
     RecordingPresenter presenter;
     std::shared_ptr<AppDelegate> app;
 
     std::shared_ptr<AppDelegate> launch() {
         app = std::make_shared<AppDelegate>(
-            database, AppEnvironment{clock, mainQueue, timers, defaults, sounds, notifier, notifications,
-                                     workspace, scripts, monitorQueue, presenter});
+            db, AppEnvironment{clock, mainQueue, timers, defaults, sounds, notifier, notifications, workspace,
+                               scripts, bg, presenter});
         app->start();
         settle();
         return app;
     }
-    // Lets captures finish and runs everything they and their followers posted.
-    void settle() {
-        do {
-            monitorQueue.sync([] {});
-        } while (mainQueue.drain() > 0);
-    }
     std::int64_t insertPending(Date start, std::string app = "Mystery") {
-        return database.insertActivity(ActivityBuilder(0, start, 30).app(std::move(app)).pending(0.3));
+        return db.insertActivity(ActivityBuilder(0, start, 30).app(std::move(app)).pending(0.3));
     }
     std::int64_t insertAway(Date start, std::int64_t seconds) {
-        return database.insertActivity(ActivityBuilder::away(0, start, seconds));
+        return db.insertActivity(ActivityBuilder::away(0, start, seconds));
     }
-    ActivityRecord row(std::int64_t id) { return database.fetchActivity(id).value(); }
+    ActivityRecord row(std::int64_t id) { return db.fetchActivity(id).value(); }
 
     ~AppDelegateTest() override {
         if (app)
@@ -99,12 +77,6 @@ TEST_F(AppDelegateTest, NoPendingRecordSpendsNothing) {
     insertPending(kStart - 600);
     app->maybeShowApprovalPopup();
     EXPECT_EQ(presenter.approvals.size(), 1u);
-}
-
-TEST_F(AppDelegateTest, TheMenusDashboardEntryClosesThePopoverThenOpensTheDashboard) {
-    launch();
-    app->trayMenu()->menuOpenDashboard();
-    EXPECT_EQ(presenter.calls, (std::vector<std::string>{"closePopover", "openDashboard"}));
 }
 
 TEST_F(AppDelegateTest, AReturnPromptsOnlyAfterMoreThanFiveMinutesAndSharesTheLimit) {
@@ -184,16 +156,16 @@ TEST_F(AppDelegateTest, ThePopupOffersTheUsersSixMostUsedCategoriesFilledUpWithD
 
     Category custom = Category::seeded().front();
     custom.name = "Gardening";
-    database.insertCategory(custom);
+    db.insertCategory(custom);
     std::int64_t gardening = 0;
-    for (const auto& category : database.fetchCategories())
+    for (const auto& category : db.fetchCategories())
         if (category.name == "Gardening")
             gardening = category.id;
     ASSERT_GT(gardening, 21);
     auto approved = [&](std::int64_t category, int times) {
         for (int i = 0; i < times; ++i) {
-            auto id = database.insertActivity(ActivityBuilder(0, kStart - 7200 + i, 10).category(category));
-            database.updateActivityCategory(id, category, true);
+            auto id = db.insertActivity(ActivityBuilder(0, kStart - 7200 + i, 10).category(category));
+            db.updateActivityCategory(id, category, true);
         }
     };
     approved(4, 3);
@@ -212,12 +184,12 @@ TEST_F(AppDelegateTest, ThePopupOffersTheUsersSixMostUsedCategoriesFilledUpWithD
 TEST_F(AppDelegateTest, AFinishedFocusSessionCreditsItsTaskAndTheDayAndEveryEndNotifies) {
     launch();
     auto& timer = *app->pomodoroTimer();
-    const auto task = database.insertTodo("Write the report", clock.now());
+    const auto task = db.insertTodo("Write the report", clock.now());
     auto dayCount = [&] {
-        const auto counts = database.fetchDailyPomoCounts(clock.now() - 86400, clock.now() + 86400);
+        const auto counts = db.fetchDailyPomoCounts(clock.now() - 86400, clock.now() + 86400);
         return counts.empty() ? 0 : counts.begin()->second;
     };
-    auto taskPomos = [&] { return database.fetchTodayTodos(clock.now()).at(0).pomodoroCount; };
+    auto taskPomos = [&] { return db.fetchTodayTodos(clock.now()).at(0).pomodoroCount; };
 
     timer.onSessionComplete(PomodoroMode::focus, task);
     EXPECT_EQ(taskPomos(), 1);
@@ -285,10 +257,10 @@ TEST_F(AppDelegateTest, StoppingEndsTheOpenRowAndWriteFailuresAreReportedOnceAnH
     launch();
     timers.advance(20);
     app->stop();
-    ASSERT_EQ(database.fetchActivities(0, 4e9).size(), 1u);
-    EXPECT_EQ(database.fetchActivities(0, 4e9)[0].endTime, kStart + 20);
+    ASSERT_EQ(db.fetchActivities(0, 4e9).size(), 1u);
+    EXPECT_EQ(db.fetchActivities(0, 4e9)[0].endTime, kStart + 20);
 
-    database.exec("PRAGMA query_only=1");
+    db.exec("PRAGMA query_only=1");
     RawActivity sample;
     for (const double wait : {0.0, 30.0, 3540.0, 30.0}) {  // four refusals over one hour and a minute
         timers.advance(wait);

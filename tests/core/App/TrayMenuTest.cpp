@@ -5,39 +5,23 @@
 #include <gtest/gtest.h>
 
 #include "ActivityBuilder.h"
-#include "ManualClock.h"
-#include "ManualMainQueue.h"
-#include "ManualTimerHub.h"
-#include "MemoryKeyValueStore.h"
 #include "RecordingPresenter.h"
-#include "RecordingSoundPlayer.h"
-#include "TempDir.h"
+#include "TrackerRig.h"
 
 namespace larkspan {
 namespace {
 
 using namespace test;
 
-struct TrayMenuTest : ::testing::Test {
-    TempDir dir;
-    Database database{dir.path() / "tracker.db"};
-    CategoryEngine engine;
-    ManualClock clock{1'790'000'000};
-    ManualMainQueue mainQueue;
-    ManualTimerHub timers{clock};
-    MemoryKeyValueStore defaults;
-    RecordingSoundPlayer sounds;
+struct TrayMenuTest : ::testing::Test, TrackerRig {
     RecordingPresenter presenter;
-    std::shared_ptr<SessionManager> sessions =
-        SessionManager::create(database, engine, clock, mainQueue, timers);
-    PomodoroTimer timer{clock, defaults, sounds, timers};
 
     std::string lastTitle() const { return presenter.titles.back().plainText(); }
 };
 
 TEST_F(TrayMenuTest, DrawsStartingAtOnceThenRedrawsForEachValueThroughTheMainQueue) {
     mainQueue.drain();
-    TrayMenu controller(*sessions, database, timer, presenter, mainQueue);
+    TrayMenu controller(*manager, db, pomodoro, presenter, mainQueue);
     ASSERT_EQ(presenter.titles.size(), 1u);
     EXPECT_EQ(lastTitle(), "\u23F1 Starting\u2026");
 
@@ -45,32 +29,32 @@ TEST_F(TrayMenuTest, DrawsStartingAtOnceThenRedrawsForEachValueThroughTheMainQue
     mainQueue.drain();
     EXPECT_EQ(presenter.titles.size(), 5u);
 
-    sessions->currentSession.set(ActivityBuilder(1, clock.now(), 0).app("Terminal").category(1));
+    manager->currentSession.set(ActivityBuilder(1, clock.now(), 0).app("Terminal").category(1));
     EXPECT_EQ(presenter.titles.size(), 5u);
     mainQueue.drain();
     EXPECT_EQ(lastTitle(), "\U0001F4BB Coding");
 
-    sessions->pendingApprovalCount.set(3);
+    manager->pendingApprovalCount.set(3);
     mainQueue.drain();
     EXPECT_EQ(lastTitle(), "\U0001F4BB Coding  3 \u25CF");
 
-    timer.start();
+    pomodoro.start();
     mainQueue.drain();
     EXPECT_EQ(lastTitle(), "\U0001F4BB Coding  \U0001F345 25:00  3 \u25CF");
-    timer.pause();
+    pomodoro.pause();
     mainQueue.drain();
     EXPECT_EQ(lastTitle(), "\U0001F4BB Coding  \U0001F345\u23F8 25:00  3 \u25CF");
 }
 
 TEST_F(TrayMenuTest, TheMenuOffersReviewOnlyWhileActivitiesArePending) {
-    TrayMenu controller(*sessions, database, timer, presenter, mainQueue);
+    TrayMenu controller(*manager, db, pomodoro, presenter, mainQueue);
     const MenuItem dashboard{"Open Dashboard", MenuItem::Action::openDashboard};
     const MenuItem separator{"", MenuItem::Action::separator};
     const MenuItem quit{"Quit Larkspan", MenuItem::Action::quit};
     mainQueue.drain();
     EXPECT_EQ(controller.contextMenuItems(), (std::vector<MenuItem>{dashboard, separator, quit}));
 
-    sessions->pendingApprovalCount.set(12);
+    manager->pendingApprovalCount.set(12);
     mainQueue.drain();
     const MenuItem review{"Review 12 Pending\u2026", MenuItem::Action::openDashboard};
     EXPECT_EQ(controller.contextMenuItems(), (std::vector<MenuItem>{dashboard, review, separator, quit}));
@@ -78,14 +62,14 @@ TEST_F(TrayMenuTest, TheMenuOffersReviewOnlyWhileActivitiesArePending) {
 
 TEST_F(TrayMenuTest, WorkPostedForAControllerThatIsGoneDoesNothing) {
     {
-        TrayMenu controller(*sessions, database, timer, presenter, mainQueue);
+        TrayMenu controller(*manager, db, pomodoro, presenter, mainQueue);
         // The dashboard entry closes the popover before it opens the dashboard.
         controller.menuOpenDashboard();
         EXPECT_EQ(presenter.calls, (std::vector<std::string>{"closePopover", "openDashboard"}));
     }
     const auto drawn = presenter.titles.size();
     mainQueue.drain();
-    sessions->pendingApprovalCount.set(1);
+    manager->pendingApprovalCount.set(1);
     mainQueue.drain();
     EXPECT_EQ(presenter.titles.size(), drawn);
 }

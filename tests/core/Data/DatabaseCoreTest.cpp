@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <random>
-
 #include "Classification/CategoryEngine.h"
 #include "Data/Database.h"
 #include "Platform/AppRoles.h"
@@ -69,18 +66,13 @@ TEST(DatabaseCore, OriginalActivitiesTableGainsManualAndNotesColumns) {
     {
         SqliteFile raw(dir / "tracker.db");
         raw.exec(
-            "CREATE TABLE activities (id INTEGER PRIMARY KEY AUTOINCREMENT, app_name TEXT NOT NULL, "
-            "bundle_id TEXT, "
-            "window_title TEXT, url TEXT, url_domain TEXT, category_id INTEGER, confidence REAL NOT NULL "
-            "DEFAULT 1.0, "
-            "needs_approval INTEGER NOT NULL DEFAULT 0, is_approved INTEGER NOT NULL DEFAULT 0, start_time "
-            "REAL NOT "
-            "NULL, end_time REAL, duration_seconds INTEGER NOT NULL DEFAULT 0, created_at REAL NOT NULL "
-            "DEFAULT "
-            "(unixepoch()));"
-            "INSERT INTO activities (app_name, start_time, end_time, duration_seconds) VALUES ('Terminal', "
-            "100.5, "
-            "160.5, 60);");
+            "CREATE TABLE activities (id INTEGER PRIMARY KEY AUTOINCREMENT, app_name TEXT NOT NULL,"
+            " bundle_id TEXT, window_title TEXT, url TEXT, url_domain TEXT, category_id INTEGER,"
+            " confidence REAL NOT NULL DEFAULT 1.0, needs_approval INTEGER NOT NULL DEFAULT 0,"
+            " is_approved INTEGER NOT NULL DEFAULT 0, start_time REAL NOT NULL, end_time REAL,"
+            " duration_seconds INTEGER NOT NULL DEFAULT 0, created_at REAL NOT NULL DEFAULT (unixepoch()));"
+            "INSERT INTO activities (app_name, start_time, end_time, duration_seconds)"
+            " VALUES ('Terminal', 100.5, 160.5, 60);");
     }
     Database db(dir / "tracker.db");
 
@@ -89,9 +81,6 @@ TEST(DatabaseCore, OriginalActivitiesTableGainsManualAndNotesColumns) {
     EXPECT_EQ(old->appName, "Terminal");
     EXPECT_FALSE(old->isManual);
     EXPECT_EQ(old->notes, std::nullopt);
-    SqliteFile raw(dir / "tracker.db");
-    EXPECT_EQ(raw.text("SELECT is_manual FROM activities WHERE id=1"), "0");
-    EXPECT_EQ(raw.text("SELECT notes FROM activities WHERE id=1"), "<NULL>");
     // New rows use both columns.
     ActivityRecord manual = ActivityRecord::manual(200, 260, 3, "Reading", std::string("chapter 4"));
     const auto id = db.insertActivity(manual);
@@ -215,27 +204,6 @@ TEST(DatabaseCore, HelpersReportSqliteErrorsByKind) {
     int rows = 0;
     db.queryRows("SELECT missing FROM nowhere", nullptr, [&](sqlite3_stmt*) { ++rows; });
     EXPECT_EQ(rows, 0);
-}
-
-TEST(DatabaseCore, UnopenableOrDamagedFilesThrowInsteadOfCrashing) {
-    TempDir dir;
-    // A folder where the file should be.
-    std::filesystem::create_directory(dir / "folder.db");
-    try {
-        Database db(dir / "folder.db");
-        ADD_FAILURE() << "opened a folder";
-    } catch (const DBError& error) {
-        EXPECT_EQ(error.kind(), DBError::Kind::openFailed);
-    }
-    // Random bytes: SQLite opens lazily, so the first pragma is what fails.
-    std::mt19937 random(7);
-    std::ofstream(dir / "noise.db", std::ios::binary) << [&] {
-        std::string bytes(64 * 1024, '\0');
-        for (char& byte : bytes)
-            byte = static_cast<char>(random());
-        return bytes;
-    }();
-    EXPECT_THROW(Database(dir / "noise.db"), DBError);
 }
 
 }  // namespace

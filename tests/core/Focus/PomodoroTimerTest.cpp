@@ -280,20 +280,7 @@ TEST_F(PomodoroTimerTest, SkipNeverCountsNorEarnsTheLongBreak) {
     EXPECT_EQ(timer->mode.get(), Mode::longBreak);
 }
 
-TEST_F(PomodoroTimerTest, MidnightWhileIdleIsNoticedAtTheNextStart) {
-    clock.set(test::localInstant(2026, 3, 14, 23, 58));
-    defaults.setText("pomo_date", "2026-03-14");
-    defaults.setInteger("pomo_count", 5);
-    auto timer = make();
-    EXPECT_EQ(timer->todayCount.get(), 5);
-
-    clock.set(test::localInstant(2026, 3, 15, 0, 30));  // still the 14th in UTC
-    EXPECT_EQ(timer->todayCount.get(), 5);
-    timer->start();
-    EXPECT_EQ(timer->todayCount.get(), 0);
-}
-
-TEST_F(PomodoroTimerTest, MidnightWhilePausedCountsTheCompletionForTheNewDay) {
+TEST_F(PomodoroTimerTest, MidnightIsNoticedAtTheNextStartAndTheCompletionCountsForTheNewDay) {
     clock.set(test::localInstant(2026, 3, 14, 23, 50));
     defaults.setText("pomo_date", "2026-03-14");
     defaults.setInteger("pomo_count", 5);
@@ -302,7 +289,8 @@ TEST_F(PomodoroTimerTest, MidnightWhilePausedCountsTheCompletionForTheNewDay) {
     hub.advance(60);
     timer->pause();
 
-    clock.set(test::localInstant(2026, 3, 15, 0, 30));
+    clock.set(test::localInstant(2026, 3, 15, 0, 30));  // still the 14th in UTC
+    EXPECT_EQ(timer->todayCount.get(), 5);
     timer->start();
     EXPECT_EQ(timer->todayCount.get(), 0);
     hub.advance(static_cast<double>(timer->secondsLeft.get()));

@@ -2,125 +2,70 @@
 
 #include <gtest/gtest.h>
 
-#include "FakeScriptRunner.h"
-#include "FakeWorkspace.h"
-#include "ManualClock.h"
+#include "Platform/TabScripts.h"
+#include "TrackerRig.h"
 
 namespace larkspan {
 namespace {
 
-using test::FakeScriptRunner;
-using test::FakeWorkspace;
-using test::ManualClock;
-
-struct BrowserTrackerTest : ::testing::Test {
-    FakeScriptRunner runner;
-    FakeWorkspace workspace;
-    ManualClock clock;
-    BrowserTracker tracker{runner, workspace, clock};
+struct BrowserTrackerTest : ::testing::Test, test::TrackerRig {
+    BrowserTracker tracker{scripts, workspace, clock};
 };
 
-TEST_F(BrowserTrackerTest, ScriptTextsAreExactAndTheGenericOneIsNamedAfterTheRunningApplication) {
-    EXPECT_EQ(tracker.tabScript("com.apple.Safari"), R"(tell application "Safari"
-    try
-        set u to URL of current tab of front window
-        set t to name of current tab of front window
-        return u & "|||" & t
-    on error
-        return "about:blank|||Safari"
-    end try
-end tell)");
-    EXPECT_EQ(tracker.tabScript("org.mozilla.firefox"), R"(tell application "Firefox"
-    try
-        set t to name of front window
-        return "firefox://active|||" & t
-    on error
-        return "firefox://active|||Firefox"
-    end try
-end tell)");
-    EXPECT_EQ(tracker.tabScript("company.thebrowser.Browser"), R"(tell application "Arc"
-    try
-        tell front window
-            set u to URL of active tab
-            set t to title of active tab
-            return u & "|||" & t
-        end tell
-    on error
-        return "about:blank|||Arc"
-    end try
-end tell)");
-    EXPECT_EQ(tracker.tabScript("com.kagi.kagimacOS"), R"(tell application "Orion"
-    try
-        set u to URL of current tab of front window
-        set t to name of current tab of front window
-        return u & "|||" & t
-    on error
-        return "about:blank|||Orion"
-    end try
-end tell)");
-
-    const std::string brave = R"(tell application "Brave Browser"
-    try
-        set u to URL of active tab of first window
-        set t to title of active tab of first window
-        return u & "|||" & t
-    on error
-        return "about:blank|||Brave Browser"
-    end try
-end tell)";
+// Each browser gets its family's script; a Chromium-family one names the running application, else
+// the family's default name.
+TEST_F(BrowserTrackerTest, EachBrowserGetsItsFamilysScriptNamedAfterTheRunningApplication) {
+    using Kind = TabScript::Kind;
     workspace.setRunning({{"org.gnome.Nautilus", "Files", 7}, {"com.brave.Browser", "Brave Browser", 8}});
-    EXPECT_EQ(tracker.tabScript("com.brave.Browser"), brave);
-
-    // Not running, or running without a name: the family's default name.
-    std::string chrome = brave;
-    for (auto at = chrome.find("Brave Browser"); at != std::string::npos; at = chrome.find("Brave Browser")) {
-        chrome.replace(at, 13, "Google Chrome");
-    }
-    EXPECT_EQ(tracker.tabScript("com.vivaldi.Vivaldi"), chrome);
+    const std::pair<const char*, TabScript> cases[] = {
+        {"com.apple.Safari", {Kind::safari, "Safari"}},
+        {"org.mozilla.firefox", {Kind::firefox, "Firefox"}},
+        {"company.thebrowser.Browser", {Kind::arc, "Arc"}},
+        {"com.kagi.kagimacOS", {Kind::orion, "Orion"}},
+        {"com.brave.Browser", {Kind::chromiumFamily, "Brave Browser"}},
+        {"com.vivaldi.Vivaldi", {Kind::chromiumFamily, "Google Chrome"}},
+    };
+    for (const auto& [bundle, expected] : cases)
+        EXPECT_EQ(recogniseTabScript(tracker.tabScript(bundle)), expected) << bundle;
     workspace.setRunning({{"com.vivaldi.Vivaldi", std::nullopt, 9}});
-    EXPECT_EQ(tracker.tabScript("com.vivaldi.Vivaldi"), chrome);
-}
-
-TEST_F(BrowserTrackerTest, TheTwelveBrowsersAreExactIdentifiers) {
+    EXPECT_EQ(tracker.tabScript("com.vivaldi.Vivaldi"), chromiumFamilyTabScript("Google Chrome"));
     EXPECT_EQ(BrowserTracker::browserBundleIDs().size(), 12u);
-    EXPECT_TRUE(BrowserTracker::isBrowser("com.google.Chrome.canary"));
-    EXPECT_TRUE(BrowserTracker::isBrowser("com.operasoftware.Opera"));
-    EXPECT_TRUE(BrowserTracker::isBrowser("com.kagi.kagimacOS"));
-    EXPECT_FALSE(BrowserTracker::isBrowser("com.google.chrome"));
-    EXPECT_FALSE(BrowserTracker::isBrowser("com.google.Chrome.dev"));
-    EXPECT_FALSE(BrowserTracker::isBrowser(""));
+    for (const char* id : {"com.google.Chrome.canary", "com.operasoftware.Opera", "com.kagi.kagimacOS"})
+        EXPECT_TRUE(BrowserTracker::isBrowser(id)) << id;
+    for (const char* id : {"com.google.chrome", "com.google.Chrome.dev", ""})
+        EXPECT_FALSE(BrowserTracker::isBrowser(id)) << id;
 }
 
 TEST_F(BrowserTrackerTest, AnAnswerIsServedFromTheCacheForStrictlyLessThanThreeSeconds) {
-    runner.answerAlways("https://example.com/|||Example");
+    scripts.answerAlways("https://example.com/|||Example");
     ASSERT_TRUE(tracker.getActiveTab("com.apple.Safari"));
     clock.advance(2.9);
     EXPECT_EQ(tracker.getActiveTab("com.apple.Safari")->domain, "example.com");
-    EXPECT_EQ(runner.runCount(), 1);
+    EXPECT_EQ(scripts.runCount(), 1);
 
     clock.advance(0.1);  // 3.0 s after the fetch
     ASSERT_TRUE(tracker.getActiveTab("com.apple.Safari"));
-    EXPECT_EQ(runner.runCount(), 2);
+    EXPECT_EQ(scripts.runCount(), 2);
     // Each browser has its own entry.
     ASSERT_TRUE(tracker.getActiveTab("com.google.Chrome"));
-    EXPECT_EQ(runner.runCount(), 3);
+    EXPECT_EQ(scripts.runCount(), 3);
 }
 
 TEST_F(BrowserTrackerTest, AStaleEntryIsNotServedAfterAFailedFetch) {
-    runner.answerAlways("https://example.com/|||Example");
+    scripts.answerAlways("https://example.com/|||Example");
     ASSERT_TRUE(tracker.getActiveTab("com.apple.Safari"));
-    runner.answerAlways(std::nullopt);
+    scripts.answerAlways(std::nullopt);
     clock.advance(1.0);
     EXPECT_TRUE(tracker.getActiveTab("com.apple.Safari"));  // still fresh
     clock.advance(2.5);
     EXPECT_FALSE(tracker.getActiveTab("com.apple.Safari"));
     EXPECT_FALSE(tracker.getActiveTab("com.apple.Safari"));
-    EXPECT_EQ(runner.runCount(), 3);
+    EXPECT_EQ(scripts.runCount(), 3);
 }
 
 TEST_F(BrowserTrackerTest, AnswersAreSplitAtTheSeparatorAndTrimmed) {
     const auto tabFor = [&](std::optional<std::string> answer) {
-        runner.answerAlways(std::move(answer));
+        scripts.answerAlways(std::move(answer));
         clock.advance(10);
         return tracker.getActiveTab("com.google.Chrome");
     };
@@ -144,20 +89,20 @@ TEST_F(BrowserTrackerTest, AnswersAreSplitAtTheSeparatorAndTrimmed) {
 }
 
 TEST_F(BrowserTrackerTest, ScriptsAreCompiledOncePerTextAndFailedCompilesAreRetried) {
-    runner.answerAlways("about:blank|||New Tab");
+    scripts.answerAlways("about:blank|||New Tab");
     // Neither browser runs, so both use the same default text.
     ASSERT_TRUE(tracker.getActiveTab("com.google.Chrome"));
     ASSERT_TRUE(tracker.getActiveTab("com.microsoft.edgemac"));
     clock.advance(5);
     ASSERT_TRUE(tracker.getActiveTab("com.google.Chrome"));
-    EXPECT_EQ(runner.compileCount(), 1);
-    EXPECT_EQ(runner.runCount(), 3);
+    EXPECT_EQ(scripts.compileCount(), 1);
+    EXPECT_EQ(scripts.runCount(), 3);
 
-    runner.refuseCompiles(true);
+    scripts.refuseCompiles(true);
     EXPECT_FALSE(tracker.getActiveTab("com.apple.Safari"));
-    runner.refuseCompiles(false);
+    scripts.refuseCompiles(false);
     EXPECT_TRUE(tracker.getActiveTab("com.apple.Safari"));
-    EXPECT_EQ(runner.compileCount(), 3);
+    EXPECT_EQ(scripts.compileCount(), 3);
 }
 
 TEST(BrowserTrackerDomain, HostWithoutLeadingWwwElseTheTextUnchanged) {

@@ -5,11 +5,7 @@
 #include <set>
 #include <tuple>
 
-#include "ManualClock.h"
-#include "ManualMainQueue.h"
-#include "ManualTimerHub.h"
-#include "TempDir.h"
-#include "Tracking/SessionManager.h"
+#include "TrackerRig.h"
 
 namespace larkspan {
 namespace {
@@ -21,15 +17,7 @@ RawActivity application(std::string name, std::optional<std::string> bundleID = 
     return RawActivity{std::move(name), std::move(bundleID), std::nullopt, std::nullopt, std::nullopt};
 }
 
-struct SessionManagerLearningTest : ::testing::Test {
-    TempDir dir;
-    Database db{dir / "tracker.db"};
-    CategoryEngine engine;
-    ManualClock clock;
-    ManualMainQueue mainQueue;
-    ManualTimerHub timers{clock};
-    std::shared_ptr<SessionManager> manager = SessionManager::create(db, engine, clock, mainQueue, timers);
-
+struct SessionManagerLearningTest : ::testing::Test, TrackerRig {
     // Runs `sample` as a session of `seconds`, closed by a sample of another application; returns
     // its row id.
     std::int64_t visit(const RawActivity& sample, double seconds = 40) {

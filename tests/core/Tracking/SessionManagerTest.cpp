@@ -4,12 +4,8 @@
 
 #include <algorithm>
 
-#include "CountingCategoryEngine.h"
-#include "ManualClock.h"
-#include "ManualMainQueue.h"
-#include "ManualTimerHub.h"
 #include "StatementTrace.h"
-#include "TempDir.h"
+#include "TrackerRig.h"
 
 namespace larkspan {
 namespace {
@@ -37,16 +33,7 @@ RawActivity away(double idleSeconds) {
 const RawActivity kKitty = app("kitty", "net.kovidgoyal.kitty", "~/src");  // Terminal at 0.99
 const RawActivity kMystery = app("Zqx", "org.example.Zqx");                // Other at 0.3: asks
 
-struct SessionManagerTest : ::testing::Test {
-    TempDir dir;
-    Database db{dir / "tracker.db"};
-    CountingCategoryEngine engine;
-    ManualClock clock;
-    const Date t0 = clock.now();
-    ManualMainQueue mainQueue;
-    ManualTimerHub timers{clock};
-    std::shared_ptr<SessionManager> manager = SessionManager::create(db, engine, clock, mainQueue, timers);
-
+struct SessionManagerTest : ::testing::Test, TrackerRig {
     std::vector<std::optional<ActivityRecord>> sessions;
     Subscription sessionSub =
         manager->currentSession.subscribe([this](const auto& s) { sessions.push_back(s); });
@@ -59,7 +46,6 @@ struct SessionManagerTest : ::testing::Test {
         manager->process(sample);
         mainQueue.drain();
     }
-    std::vector<ActivityRecord> rows() { return db.fetchActivities(0, 4e9); }
 };
 
 TEST_F(SessionManagerTest, EqualSamplesKeepOneRowWhoseEndMovesOnlyWithHeartbeats) {

@@ -18,7 +18,6 @@ const RunningApplication kZqx{"org.example.Zqx", "Zqx", 30};  // unknown: asks
 struct TrackingIntegrationTest : ::testing::Test, test::TrackerRig {
     test::SqliteFile file{dir / "tracker.db"};
     const std::thread::id mainThread = std::this_thread::get_id();
-    int samples = 0;
     int offMainAssignments = 0;
     std::vector<double> returns;
     std::vector<Subscription> subscriptions;
@@ -29,7 +28,6 @@ struct TrackingIntegrationTest : ::testing::Test, test::TrackerRig {
             countThread();
             if (!sample)
                 return;
-            ++samples;
             mainQueue.post([this, s = *sample] { manager->process(s); });
         }));
         subscriptions.push_back(manager->currentSession.subscribe([this](const auto&) { countThread(); }));
@@ -47,28 +45,6 @@ struct TrackingIntegrationTest : ::testing::Test, test::TrackerRig {
             ++offMainAssignments;
     }
 };
-
-TEST_F(TrackingIntegrationTest, AHundredEqualSamplesMakeOneRowWhoseEndMovesOnlyWithHeartbeats) {
-    workspace.setFrontmost(kKitty);
-    workspace.setTitle(kKitty.pid, "~/src");
-    monitor->start();
-    settle();
-    for (int second = 1; second <= 400; ++second) {
-        if (second % 7 == 0)
-            workspace.setTitle(kKitty.pid, "vim " + std::to_string(second));
-        run(1);
-        const auto stored = rows();
-        ASSERT_EQ(stored.size(), 1u) << second;
-        const int beats = second / 30;
-        EXPECT_EQ(stored[0].endTime, beats ? std::optional(t0 + 30.0 * beats) : std::nullopt) << second;
-    }
-    EXPECT_EQ(samples, 101);  // at start, then every 4 seconds
-    const auto row = rows()[0];
-    EXPECT_EQ(row.startTime, t0);
-    EXPECT_EQ(row.durationSeconds, 390);
-    EXPECT_EQ(row.windowTitle, "~/src");
-    EXPECT_EQ(row.categoryID, category_id::terminal);
-}
 
 TEST_F(TrackingIntegrationTest, SwitchesAbsenceAndAnswersReachTheStore) {
     workspace.setFrontmost(kKitty);

@@ -7,6 +7,7 @@
 #include <QQmlContext>
 #include <QRegularExpression>
 #include <QTest>
+#include <array>
 
 #include "App/ui/QmlModule.h"
 
@@ -14,35 +15,25 @@ namespace larkspan {
 
 namespace {
 
-struct Roles {
-    QColor window, windowText, base, alternateBase, text, placeholder, button, buttonText, highlight,
-        highlightedText, light, midlight, mid, dark, shadow, link, toolTipBase, toolTipText, disabledText;
-};
+// Colours of the roles in this order; disabled texts take the last one.
+constexpr QPalette::ColorRole kRoles[] = {QPalette::Window,      QPalette::WindowText,
+                                          QPalette::Base,        QPalette::AlternateBase,
+                                          QPalette::Text,        QPalette::PlaceholderText,
+                                          QPalette::Button,      QPalette::ButtonText,
+                                          QPalette::Highlight,   QPalette::HighlightedText,
+                                          QPalette::Light,       QPalette::Midlight,
+                                          QPalette::Mid,         QPalette::Dark,
+                                          QPalette::Shadow,      QPalette::Link,
+                                          QPalette::ToolTipBase, QPalette::ToolTipText};
 
-QPalette paletteFrom(const Roles& r) {
+QPalette paletteFrom(const std::array<const char*, std::size(kRoles) + 1>& colors) {
     QPalette palette;
-    palette.setColor(QPalette::Window, r.window);
-    palette.setColor(QPalette::WindowText, r.windowText);
-    palette.setColor(QPalette::Base, r.base);
-    palette.setColor(QPalette::AlternateBase, r.alternateBase);
-    palette.setColor(QPalette::Text, r.text);
-    palette.setColor(QPalette::PlaceholderText, r.placeholder);
-    palette.setColor(QPalette::Button, r.button);
-    palette.setColor(QPalette::ButtonText, r.buttonText);
+    for (std::size_t i = 0; i < std::size(kRoles); ++i)
+        palette.setColor(kRoles[i], QColor(colors[i]));
     palette.setColor(QPalette::BrightText, Qt::white);
-    palette.setColor(QPalette::Highlight, r.highlight);
-    palette.setColor(QPalette::HighlightedText, r.highlightedText);
-    palette.setColor(QPalette::Light, r.light);
-    palette.setColor(QPalette::Midlight, r.midlight);
-    palette.setColor(QPalette::Mid, r.mid);
-    palette.setColor(QPalette::Dark, r.dark);
-    palette.setColor(QPalette::Shadow, r.shadow);
-    palette.setColor(QPalette::Link, r.link);
-    palette.setColor(QPalette::LinkVisited, r.link);
-    palette.setColor(QPalette::ToolTipBase, r.toolTipBase);
-    palette.setColor(QPalette::ToolTipText, r.toolTipText);
+    palette.setColor(QPalette::LinkVisited, palette.color(QPalette::Link));
     for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, r.disabledText);
+        palette.setColor(QPalette::Disabled, role, QColor(colors.back()));
     return palette;
 }
 
@@ -224,20 +215,20 @@ namespace {
 
 bool isControl(QAccessible::Role role) {
     switch (role) {
-    case QAccessible::Button:
-    case QAccessible::CheckBox:
-    case QAccessible::RadioButton:
-    case QAccessible::PageTab:
-    case QAccessible::ListItem:
-    case QAccessible::MenuItem:
-    case QAccessible::Slider:
-    case QAccessible::SpinBox:
-    case QAccessible::EditableText:
-    case QAccessible::ComboBox:
-    case QAccessible::Link:
-        return true;
-    default:
-        return false;
+        case QAccessible::Button:
+        case QAccessible::CheckBox:
+        case QAccessible::RadioButton:
+        case QAccessible::PageTab:
+        case QAccessible::ListItem:
+        case QAccessible::MenuItem:
+        case QAccessible::Slider:
+        case QAccessible::SpinBox:
+        case QAccessible::EditableText:
+        case QAccessible::ComboBox:
+        case QAccessible::Link:
+            return true;
+        default:
+            return false;
     }
 }
 
@@ -272,9 +263,9 @@ bool pressReachesAHandler(QObject* object) {
 QString describe(QAccessibleInterface* element) {
     QObject* object = element->object();
     return QStringLiteral("%1 \"%2\" (%3)")
-        .arg(QString::fromLatin1(object ? object->metaObject()->className() : "?"),
-             nameOf(element),
-             object && !object->objectName().isEmpty() ? object->objectName() : QStringLiteral("no objectName"));
+        .arg(QString::fromLatin1(object ? object->metaObject()->className() : "?"), nameOf(element),
+             object && !object->objectName().isEmpty() ? object->objectName()
+                                                       : QStringLiteral("no objectName"));
 }
 
 void audit(QAccessibleInterface* element, QStringList& problems) {
@@ -321,6 +312,16 @@ bool QuickScreen::saveScreenshot(const QString& test, const QString& state) {
         return false;
     const QString scheme = scheme_ == ColorScheme::dark ? QStringLiteral("dark") : QStringLiteral("light");
     return image.save(QStringLiteral("%1/%2-%3-%4.png").arg(dir, test, state, scheme));
+}
+
+bool QuickScreen::saveScreenshots(const QString& test, const QString& state) {
+    bool saved = true;
+    for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+        setColorScheme(scheme);
+        saved = saveScreenshot(test, state) && saved;
+    }
+    setColorScheme(ColorScheme::light);
+    return saved;
 }
 
 }  // namespace larkspan

@@ -79,6 +79,8 @@ public:
     // the image is empty or cannot be written. Every state a test renders is also audited for
     // accessibility: a problem is a warning, which fails the test.
     bool saveScreenshot(const QString& test, const QString& state);
+    // saveScreenshot() in light, then dark; the screen is left light.
+    bool saveScreenshots(const QString& test, const QString& state);
     // What a screen reader could not use in the window as it is now: a control without a name, or an
     // element offering to be pressed whose press nothing answers.
     QStringList accessibilityProblems() const;
