@@ -212,7 +212,7 @@ private slots:
         Tracker tracker(2);
         tracker.track("Code", "com.microsoft.VSCode", "main.cpp");
         QtAppPresenter presenter;
-        presenter.attach(tracker.db, *tracker.manager, tracker.timer);
+        presenter.attach(tracker.db, *tracker.manager, tracker.pomodoro);
 
         // The offscreen platform has no tray, so the dashboard stands in at launch.
         QVERIFY(!QSystemTrayIcon::isSystemTrayAvailable());

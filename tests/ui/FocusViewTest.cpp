@@ -76,9 +76,9 @@ private slots:
         tab.focus.waitForLoad();
         QCOMPARE(tab.db.fetchTodayTodos(tab.clock.now()).front().title, std::string("Write the report"));
         QTRY_VERIFY(visible(tab.screen, "taskRow0"));
-        QCOMPARE(tab.timer.runState.get(), PomodoroTimer::RunState::idle);
+        QCOMPARE(tab.pomodoro.runState.get(), PomodoroTimer::RunState::idle);
         tab.key(Qt::Key_Space);
-        QCOMPARE(tab.timer.runState.get(), PomodoroTimer::RunState::running);
+        QCOMPARE(tab.pomodoro.runState.get(), PomodoroTimer::RunState::running);
         tab.timers.advance(300);
         QCOMPARE(tab.screen.text("activeTaskTitle"), QStringLiteral("Write the report"));
         QCOMPARE(tab.screen.text("clockTime"), QStringLiteral("20:00"));
@@ -107,7 +107,7 @@ private slots:
             if (i % 4 == 1)
                 tab.db.toggleTodoComplete(id);
         }
-        tab.timer.todayCount.set(3);
+        tab.pomodoro.todayCount.set(3);
         QVERIFY(tab.load());
         QCOMPARE(tab.screen.text("todayTime"), QStringLiteral("\u2248 75m focused"));
         QVERIFY(visible(tab.screen, "clearDoneButton"));
@@ -137,7 +137,7 @@ private slots:
         QTRY_VERIFY(visible(tab.screen, "settingsDone"));
         QVERIFY(tab.screen.focusByKeyboard("setting0"));
         tab.key(Qt::Key_Up);
-        QCOMPARE(tab.timer.focusMinutes.get(), 30);
+        QCOMPARE(tab.pomodoro.focusMinutes.get(), 30);
         QCOMPARE(tab.screen.text("clockTime"), QStringLiteral("25:00"));  // an idle clock waits for "Done"
         screenshots(tab.screen, "settings");
         QVERIFY(tab.screen.press("settingsDone"));
