@@ -4,8 +4,9 @@
 // that builds nothing. Statements run on the store queue's thread, so times are wall times, with the
 // CPU time of the whole process beside them (the steadier figure on a busy machine).
 //
-// The file is written once into the working folder (year-of-data.db) and reused by later runs; delete
-// it to write it anew. Time zone Europe/Berlin, the present pinned to a Wednesday afternoon.
+// The file is written once beside this program (year-of-data.db, in the build folder) and reused by
+// later runs; delete it to write it anew. Time zone Europe/Berlin, the present pinned to a Wednesday
+// afternoon.
 #include <benchmark/benchmark.h>
 #include <stdlib.h>
 #include <time.h>
@@ -25,7 +26,8 @@
 namespace larkspan {
 namespace {
 
-const std::filesystem::path kFile = "year-of-data.db";
+const std::filesystem::path kFile =
+    std::filesystem::read_symlink("/proc/self/exe").parent_path() / "year-of-data.db";
 constexpr Date kNow = 1'793'800'800;  // Wednesday 4 November 2026, 15:00 in Berlin
 
 struct Year {
