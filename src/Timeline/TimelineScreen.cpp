@@ -194,11 +194,15 @@ EditSheetValues editSheetStart(const ActivityRecord& activity) {
             activity.categoryID.value_or(category_id::other), activity.notes.value_or("")};
 }
 
-void saveEditSheet(Database& database, std::int64_t activityID, const EditSheetValues& values) {
+bool saveEditSheet(Database& database, std::int64_t activityID, const EditSheetValues& values) {
     database.updateActivityCategory(activityID, values.categoryID, true);
     database.updateActivityTimes(activityID, values.startTime, values.endTime);
     if (!values.notes.empty())
         database.updateActivityNotes(activityID, values.notes);
+    const std::optional<ActivityRecord> stored = database.fetchActivity(activityID);
+    return stored && stored->isApproved && stored->categoryID == values.categoryID &&
+           stored->startTime == values.startTime && stored->endTime == values.endTime &&
+           (values.notes.empty() || stored->notes == values.notes);
 }
 
 ManualSheetValues manualSheetStart(Date now) {

@@ -134,8 +134,9 @@ struct EditSheetValues {
 // The record's times (an open one ends at start plus duration), its category or "Other", its notes.
 EditSheetValues editSheetStart(const ActivityRecord& activity);
 // Approves with the chosen category, rewrites the times (and so the duration) and, unless the field is
-// empty, the notes. The store swallows a failed write, which then leaves that field as it was.
-void saveEditSheet(Database& database, std::int64_t activityID, const EditSheetValues& values);
+// empty, the notes. The store swallows a failed write, so the row is read back: false when it does not
+// hold what was saved (a read-only store), and the sheet then stays open.
+bool saveEditSheet(Database& database, std::int64_t activityID, const EditSheetValues& values);
 
 struct ManualSheetValues {
     Date startTime = 0;

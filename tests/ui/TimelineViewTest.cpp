@@ -195,6 +195,10 @@ private slots:
         QVERIFY(!day.timeline.setSheetTimeText(0, "14:00"));  // past the end
         QVERIFY(screen.press("editCategory-Research"));
         day.timeline.setSheetNotes("checked with Ana");
+        day.db.exec("PRAGMA query_only = 1");
+        QVERIFY(screen.press("editSheetSave"));
+        QVERIFY(visible(screen, "editSheetSave"));  // refused: the sheet stays
+        day.db.exec("PRAGMA query_only = 0");
         QVERIFY(screen.press("editSheetSave"));
         QTRY_VERIFY(!visible(screen, "editSheetSave"));
         const auto stored = day.db.fetchActivities(at(13, 0), at(13, 0));

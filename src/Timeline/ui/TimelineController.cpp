@@ -549,7 +549,9 @@ void TimelineController::saveSheet() {
         selection_.showManualEntry = false;
         load();
     } else {
-        saveEditSheet(database_, selection_.editing->id, edit_);
+        // A refused write leaves the sheet open with what was chosen.
+        if (!saveEditSheet(database_, selection_.editing->id, edit_))
+            return;
         load();
         selection_.editDone();
         fillRows();

@@ -145,7 +145,12 @@ TEST(TimelineScreenTest, EditSheetStartsFromTheRecordAndWritesItsColumns) {
     values = editSheetStart(pending);
     values.notes.clear();
     values.endTime = 1000 + 299.7;
-    saveEditSheet(db, id, values);
+    // A read-only store keeps the row as it was, and says so.
+    db.exec("PRAGMA query_only = 1");
+    EXPECT_FALSE(saveEditSheet(db, id, values));
+    EXPECT_EQ(db.fetchActivity(id)->durationSeconds, 300);
+    db.exec("PRAGMA query_only = 0");
+    EXPECT_TRUE(saveEditSheet(db, id, values));
     const ActivityRecord stored = *db.fetchActivity(id);
     EXPECT_TRUE(stored.isApproved && !stored.needsApproval);
     EXPECT_EQ(stored.categoryID, category_id::other);
