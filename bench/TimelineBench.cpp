@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QQuickItem>
 
+#include <algorithm>
 #include <array>
 #include <random>
 #include <string>
@@ -25,17 +26,21 @@ using test::ActivityBuilder;
 
 constexpr Date kDayStart = 1'763'856'000;
 
-// 1,500 activities from 07:00: site visits, editor and terminal windows, chat windows with long
-// titles, and every fortieth an away span of 2 to 20 minutes; short pauses between them.
-std::vector<ActivityRecord> busyDay() {
+// `count` activities from 07:00: site visits, editor and terminal windows, chat windows with long
+// titles, and every fortieth an away span of 2 to 20 minutes; short pauses between them. Spans and
+// pauses shrink as the count grows past 1,500, so the larger days are as crowded as a day can be.
+std::vector<ActivityRecord> busyDay(int count = 1500) {
+    const auto scaled = [count](std::int64_t seconds) {
+        return std::max<std::int64_t>(1, seconds * std::min(count, 1500) / count);
+    };
     std::mt19937 random(1500);
     const std::array<const char*, 8> hosts = {
         "github.com",       "docs.rs",     "news.ycombinator.com", "mail.example.org",
         "en.wikipedia.org", "youtube.com", "stackoverflow.com",    "calendar.example.org"};
     std::vector<ActivityRecord> day;
     Date t = kDayStart + 7 * 3600;
-    for (std::int64_t id = 1; id <= 1500; ++id) {
-        const std::int64_t seconds = 5 + static_cast<std::int64_t>(random() % 60);
+    for (std::int64_t id = 1; id <= count; ++id) {
+        const std::int64_t seconds = scaled(5 + static_cast<std::int64_t>(random() % 60));
         ActivityBuilder a(id, t, seconds);
         switch (random() % 4) {
             case 0:
@@ -58,10 +63,10 @@ std::vector<ActivityRecord> busyDay() {
         }
         a.category(static_cast<std::int64_t>(random() % 6));
         if (id % 40 == 0)
-            a = ActivityBuilder::away(id, t, 120 + static_cast<std::int64_t>(random() % 1080));
+            a = ActivityBuilder::away(id, t, scaled(120 + static_cast<std::int64_t>(random() % 1080)));
         const ActivityRecord record = a;
         day.push_back(record);
-        t = effectiveEnd(record) + static_cast<double>(random() % 8);
+        t = effectiveEnd(record) + static_cast<double>(scaled(static_cast<std::int64_t>(random() % 8)));
     }
     return day;
 }
@@ -133,8 +138,8 @@ struct StoredBusyDay {
     test::DashboardRig rig;
     TimelineController& timeline = *rig.screens.timeline();
 
-    StoredBusyDay() {
-        for (ActivityRecord record : busyDay()) {
+    explicit StoredBusyDay(int count) {
+        for (ActivityRecord record : busyDay(count)) {
             if (record.categoryID == 0)
                 record.categoryID.reset();  // no such category: uncategorised
             rig.db.insertActivity(record);
@@ -157,7 +162,7 @@ QGuiApplication& application() {
 
 void BM_SelectBusyDayToCanvasAndList(benchmark::State& state) {
     application();
-    StoredBusyDay day;
+    StoredBusyDay day(static_cast<int>(state.range(0)));
     for (auto _ : state) {
         state.PauseTiming();
         day.rig.dashboard.setSelectedDate(kDayStart - 86'400);
@@ -169,11 +174,11 @@ void BM_SelectBusyDayToCanvasAndList(benchmark::State& state) {
     state.counters["rows"] = day.timeline.rows()->rowCount();
     state.counters["boxes"] = day.timeline.chapters()->rowCount();
 }
-BENCHMARK(BM_SelectBusyDayToCanvasAndList)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SelectBusyDayToCanvasAndList)->Arg(1500)->Arg(5000)->Unit(benchmark::kMillisecond);
 
 void BM_CanvasFrameOffscreen(benchmark::State& state) {
     application();
-    StoredBusyDay day;
+    StoredBusyDay day(static_cast<int>(state.range(0)));
     day.rig.dashboard.setSelectedDate(kDayStart + 43'200);
     QuickScreen screen;
     if (!screen.load("TimelineView", {{"controller", QVariant::fromValue(&day.timeline)}}, {1100, 740})) {
@@ -191,7 +196,7 @@ void BM_CanvasFrameOffscreen(benchmark::State& state) {
     }
     state.counters["boxes"] = day.timeline.chapters()->rowCount();
 }
-BENCHMARK(BM_CanvasFrameOffscreen)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_CanvasFrameOffscreen)->Arg(1500)->Arg(5000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace larkspan
