@@ -12,19 +12,6 @@ namespace {
 
 const QSize kTabSize{780, 740};
 
-bool visible(QuickScreen& screen, const QString& objectName) {
-    const QQuickItem* item = screen.find(objectName);
-    return item && item->isVisible();
-}
-
-void screenshots(QuickScreen& screen, const QString& state) {
-    for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
-        screen.setColorScheme(scheme);
-        QVERIFY(screen.saveScreenshot(QStringLiteral("focus"), state));
-    }
-    screen.setColorScheme(ColorScheme::light);
-}
-
 struct FocusTab : test::DashboardRig {
     FocusController& focus = *screens.focus();
     QuickScreen screen;
@@ -51,21 +38,21 @@ private slots:
     void idleAddRunPause() {
         FocusTab tab;
         QVERIFY(tab.load());
-        QVERIFY(visible(tab.screen, "emptyTasks"));
-        QVERIFY(!visible(tab.screen, "stopButton") && !visible(tab.screen, "skipButton"));
+        QVERIFY(tab.screen.visible("emptyTasks"));
+        QVERIFY(!tab.screen.visible("stopButton") && !tab.screen.visible("skipButton"));
         QCOMPARE(tab.screen.text("mainButton"), QStringLiteral("Start"));
         QCOMPARE(tab.screen.text("todayCount"), QStringLiteral("0 pomodoros today"));
-        QVERIFY(!visible(tab.screen, "resetCountButton"));
-        screenshots(tab.screen, "idle-empty");
+        QVERIFY(!tab.screen.visible("resetCountButton"));
+        QVERIFY(tab.screen.saveScreenshots("focus", "idle-empty"));
 
         // Spaces only: "Add" stays disabled and Return keeps the line open; Escape cancels it.
         QVERIFY(tab.screen.press("addFirstTaskButton"));
         tab.type("   ");
         QVERIFY(!tab.screen.find("addButton")->isEnabled());
         tab.key(Qt::Key_Return);
-        QVERIFY(visible(tab.screen, "newTaskLine"));
+        QVERIFY(tab.screen.visible("newTaskLine"));
         tab.key(Qt::Key_Escape);
-        QVERIFY(!visible(tab.screen, "newTaskLine"));
+        QVERIFY(!tab.screen.visible("newTaskLine"));
 
         // Return adds the trimmed title, which becomes the active task; the space bar in the field
         // types, outside it starts the timer.
@@ -75,7 +62,7 @@ private slots:
         tab.key(Qt::Key_Return);
         tab.focus.waitForLoad();
         QCOMPARE(tab.db.fetchTodayTodos(tab.clock.now()).front().title, std::string("Write the report"));
-        QTRY_VERIFY(visible(tab.screen, "taskRow0"));
+        QTRY_VERIFY(tab.screen.visible("taskRow0"));
         QCOMPARE(tab.pomodoro.runState.get(), PomodoroTimer::RunState::idle);
         tab.key(Qt::Key_Space);
         QCOMPARE(tab.pomodoro.runState.get(), PomodoroTimer::RunState::running);
@@ -83,14 +70,14 @@ private slots:
         QCOMPARE(tab.screen.text("activeTaskTitle"), QStringLiteral("Write the report"));
         QCOMPARE(tab.screen.text("clockTime"), QStringLiteral("20:00"));
         QCOMPARE(tab.screen.accessibleName("clockRing"), QStringLiteral("Focus, 20:00 left, 20 % done"));
-        screenshots(tab.screen, "running");
+        QVERIFY(tab.screen.saveScreenshots("focus", "running"));
 
         QVERIFY(tab.screen.press("mainButton"));
         QCOMPARE(
             tab.screen.text("stopButton") + tab.screen.text("mainButton") + tab.screen.text("skipButton"),
             QStringLiteral("StopStartSkip"));
-        QVERIFY(!visible(tab.screen, "activeTask"));
-        screenshots(tab.screen, "paused");
+        QVERIFY(!tab.screen.visible("activeTask"));
+        QVERIFY(tab.screen.saveScreenshots("focus", "paused"));
     }
 
     void longListOfOddTitles() {
@@ -110,12 +97,12 @@ private slots:
         tab.pomodoro.todayCount.set(3);
         QVERIFY(tab.load());
         QCOMPARE(tab.screen.text("todayTime"), QStringLiteral("\u2248 75m focused"));
-        QVERIFY(visible(tab.screen, "clearDoneButton"));
+        QVERIFY(tab.screen.visible("clearDoneButton"));
         QTRY_VERIFY(tab.screen.find("taskTitle0"));
         const QQuickItem* longTitle = tab.screen.find("taskTitle0")->childItems().front();
         QVERIFY(longTitle->property("truncated").toBool());
         QCOMPARE(longTitle->property("text").toString().size(), 10'000);
-        screenshots(tab.screen, "long-list");
+        QVERIFY(tab.screen.saveScreenshots("focus", "long-list"));
 
         // F2 renames; Escape drops the edit; "Clear done" removes the completed rows.
         QVERIFY(tab.screen.focusByKeyboard("taskTitle1"));
@@ -127,19 +114,19 @@ private slots:
         QVERIFY(tab.screen.press("clearDoneButton"));
         tab.focus.waitForLoad();
         QCOMPARE(tab.focus.tasks()->count(), 18);
-        QVERIFY(!visible(tab.screen, "clearDoneButton"));
+        QVERIFY(!tab.screen.visible("clearDoneButton"));
     }
 
     void settingsSheet() {
         FocusTab tab;
         QVERIFY(tab.load());
         QVERIFY(tab.screen.press("settingsButton"));
-        QTRY_VERIFY(visible(tab.screen, "settingsDone"));
+        QTRY_VERIFY(tab.screen.visible("settingsDone"));
         QVERIFY(tab.screen.focusByKeyboard("setting0"));
         tab.key(Qt::Key_Up);
         QCOMPARE(tab.pomodoro.focusMinutes.get(), 30);
         QCOMPARE(tab.screen.text("clockTime"), QStringLiteral("25:00"));  // an idle clock waits for "Done"
-        screenshots(tab.screen, "settings");
+        QVERIFY(tab.screen.saveScreenshots("focus", "settings"));
         QVERIFY(tab.screen.press("settingsDone"));
         QCOMPARE(tab.screen.text("clockTime"), QStringLiteral("30:00"));
         QCOMPARE(tab.defaults.integer("pomo_focus"), std::optional<std::int64_t>(30));

@@ -61,15 +61,6 @@ Pane {
         Row {
             spacing: 12
             Button {
-                objectName: "start"
-                property int clicks: 0
-                text: "Start"
-                icon.source: Icons.source("play.fill")
-                icon.color: palette.buttonText
-                onClicked: clicks++
-                Accessible.onPressAction: clicked()
-            }
-            Button {
                 text: "Delete"
                 Accessible.onPressAction: clicked()
                 icon.source: Icons.source("trash")
@@ -104,8 +95,7 @@ private slots:
             QSvgRenderer svg(Icons::resourcePath(name));
             QVERIFY2(svg.isValid(), qPrintable(name));
             QCOMPARE(svg.viewBoxF(), QRectF(0, 0, 24, 24));
-            QVERIFY2(!icons.themeName(name).isEmpty(), qPrintable(name));
-            QVERIFY2(!Icons::icon(name).isNull(), qPrintable(name));
+            QVERIFY2(!icons.themeName(name).isEmpty() && !Icons::icon(name).isNull(), qPrintable(name));
             QCOMPARE(icons.source(name).scheme(), QStringLiteral("qrc"));
 
             const QImage image = Icons::render(name, tint, 24);
@@ -139,12 +129,9 @@ private slots:
                                      QString::fromUtf8("pla\xFFy"),
                                      QString::fromUtf8("play\0.fill", 10)};
         for (const QString& name : unknown) {
-            QVERIFY(Icons::resourcePath(name).isEmpty());
-            QVERIFY(Icons::icon(name).isNull());
-            QVERIFY(Icons::render(name, Qt::red, 24).isNull());
-            QVERIFY(icons.source(name).isEmpty());
-            QVERIFY(icons.themeName(name).isEmpty());
-            QVERIFY(icons.tintedSource(name, Qt::red).isEmpty());
+            QVERIFY(Icons::resourcePath(name).isEmpty() && Icons::icon(name).isNull());
+            QVERIFY(Icons::render(name, Qt::red, 24).isNull() && icons.source(name).isEmpty());
+            QVERIFY(icons.themeName(name).isEmpty() && icons.tintedSource(name, Qt::red).isEmpty());
         }
         QVERIFY(Icons::render("play.fill", Qt::red, 0).isNull());
         // What the image provider may be asked for: unknown names, malformed colours.
@@ -160,12 +147,7 @@ private slots:
     void viewsDrawSymbolsAndSymbolButtonsInBothSchemes() {
         QuickScreen screen;
         QVERIFY(screen.loadText(scene, {{"names", Icons::names()}}, {440, 300}));
-        QCOMPARE(screen.text("start"), QStringLiteral("Start"));
-        QVERIFY(screen.hover("start"));
-        QVERIFY(screen.click("start"));
-        QCOMPARE(screen.find("start")->property("clicks").toInt(), 1);
-        QVERIFY(!screen.click("no-such-item"));
-
+        QVERIFY(screen.hover("back"));
         for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
             screen.setColorScheme(scheme);
             const QImage shot = screen.grab();

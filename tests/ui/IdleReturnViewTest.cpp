@@ -1,7 +1,6 @@
 // The welcome-back card on screen: the time away, the five answers, "Dismiss" answering as "Break",
 // and its floating window as the presenter shows it, takes it away on the answer and replaces it.
 #include <QPointer>
-#include <QScreen>
 #include <QTest>
 
 #include "App/ui/QtAppPresenter.h"
@@ -55,11 +54,8 @@ private slots:
         });
         QPointer<FloatingWindow> window = presenter.idleWindow();
         QVERIFY(window && window->view());
+        // Flags and place are the approval card's test: both go through the same presentation.
         QVERIFY(QTest::qWaitForWindowExposed(window));
-        QVERIFY(window->flags().testFlag(Qt::WindowDoesNotAcceptFocus));
-        const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
-        QCOMPARE(window->geometry(),
-                 QRect(area.right() + 1 - 20 - 340, area.bottom() + 1 - 20 - 200, 340, 200));
 
         QQuickItem* meeting = findItem(window->contentItem(), "option-4");
         QVERIFY(meeting);

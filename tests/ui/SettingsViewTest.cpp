@@ -23,12 +23,6 @@ struct Settings {
         auto* popup = screen.root()->findChild<QObject*>(name);
         return popup && popup->property("opened").toBool();
     }
-    void photograph(const char* state) {
-        for (auto scheme : {ColorScheme::light, ColorScheme::dark}) {
-            screen.setColorScheme(scheme);
-            QVERIFY(screen.saveScreenshot("settings", state));
-        }
-    }
     QString lastName() { return QString::fromStdString(rig.db.fetchCategories().back().name); }
 };
 
@@ -43,7 +37,7 @@ private slots:
         QCOMPARE(s.screen.find("categoryRow-0")->property("badgeText").toString(),
                  QStringLiteral("Productive"));
         QVERIFY(!s.screen.find("categoryRow-20")->property("deletable").toBool());
-        s.photograph("list");
+        QVERIFY(s.screen.saveScreenshots("settings", "list"));
         QVERIFY(s.screen.press("deleteThreeMonths"));
         s.controller.waitForCompaction();
         QVERIFY(!s.controller.compacting());
@@ -57,7 +51,7 @@ private slots:
         for (const char key : std::string("Tom's"))
             QTest::keyClick(s.screen.window(), key);
         QCOMPARE(s.controller.newName(), QStringLiteral("Tom's"));
-        s.photograph("new-sheet");
+        QVERIFY(s.screen.saveScreenshots("settings", "new-sheet"));
         QTest::keyClick(s.screen.window(), Qt::Key_Return);
         QTRY_VERIFY(!s.sheetOpen("newCategorySheet"));
         QCOMPARE(s.lastName(), QStringLiteral("Tom's"));
@@ -81,12 +75,12 @@ private slots:
         const QString hostile = QStringLiteral("'); DROP TABLE categories; --");
         QVERIFY(s.screen.press("edit"));
         QTRY_VERIFY(s.sheetOpen("editCategorySheet"));
-        s.photograph("edit-sheet");
+        QVERIFY(s.screen.saveScreenshots("settings", "edit-sheet"));
         QVERIFY(s.controller.save(category_id::coding, hostile, QStringLiteral("\U0001F600"), 1));
         QVERIFY(s.controller.save(category_id::writing, QString(10'000, QLatin1Char('n')), "x", 0));
         QCOMPARE(QString::fromStdString(s.rig.db.fetchCategories().front().name), hostile);
         QCOMPARE(s.screen.text("categoryName"), hostile);
-        s.photograph("hostile-names");
+        QVERIFY(s.screen.saveScreenshots("settings", "hostile-names"));
 
         // A read-only store: the sheet stays open, the list, the rows and the activities stay.
         const auto old =

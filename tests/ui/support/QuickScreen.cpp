@@ -204,6 +204,11 @@ QString QuickScreen::text(const QString& objectName) const {
     return item ? item->property("text").toString() : QString();
 }
 
+bool QuickScreen::visible(const QString& objectName) const {
+    const QQuickItem* item = find(objectName);
+    return item && item->isVisible();
+}
+
 QImage QuickScreen::grab() {
     if (!window_)
         return {};

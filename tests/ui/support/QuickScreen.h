@@ -72,6 +72,8 @@ public:
     bool focusByKeyboard(const QString& objectName);
     // The item's `text` property; empty when there is none.
     QString text(const QString& objectName) const;
+    // Whether the item named `objectName` exists and is visible.
+    bool visible(const QString& objectName) const;
 
     // The window as drawn now, after pending updates.
     QImage grab();
