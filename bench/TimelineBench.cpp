@@ -149,19 +149,7 @@ struct StoredBusyDay {
     }
 };
 
-QGuiApplication& application() {
-    static int argc = 1;
-    static char name[] = "bench_TimelineBench";
-    static char* argv[] = {name, nullptr};
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_QUICK_BACKEND", "software");
-    setenv("TZ", "UTC", 1);
-    static QGuiApplication app(argc, argv);
-    return app;
-}
-
 void BM_SelectBusyDayToCanvasAndList(benchmark::State& state) {
-    application();
     StoredBusyDay day(static_cast<int>(state.range(0)));
     for (auto _ : state) {
         state.PauseTiming();
@@ -177,7 +165,6 @@ void BM_SelectBusyDayToCanvasAndList(benchmark::State& state) {
 BENCHMARK(BM_SelectBusyDayToCanvasAndList)->Arg(1500)->Arg(5000)->Unit(benchmark::kMillisecond);
 
 void BM_CanvasFrameOffscreen(benchmark::State& state) {
-    application();
     StoredBusyDay day(static_cast<int>(state.range(0)));
     day.rig.dashboard.setSelectedDate(kDayStart + 43'200);
     QuickScreen screen;
@@ -200,3 +187,18 @@ BENCHMARK(BM_CanvasFrameOffscreen)->Arg(1500)->Arg(5000)->Unit(benchmark::kMilli
 
 }  // namespace
 }  // namespace larkspan
+
+// The screens need an application object, made before the first benchmark and gone after the last
+// (one left to static destruction outlives what Qt tears down at exit).
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    setenv("TZ", "UTC", 1);
+    QGuiApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
