@@ -175,7 +175,7 @@ private slots:
         day.timeline.setSheetNotes("checked with Ana");
         day.db.exec("PRAGMA query_only = 1");
         QVERIFY(screen.press("editSheetSave"));
-        QVERIFY(visible(screen, "editSheetSave"));  // refused: the sheet stays
+        QVERIFY(screen.visible("editSheetSave"));  // refused: the sheet stays
         day.db.exec("PRAGMA query_only = 0");
         QVERIFY(screen.press("editSheetSave"));
         QTRY_VERIFY(!screen.visible("editSheetSave"));
