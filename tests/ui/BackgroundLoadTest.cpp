@@ -6,7 +6,7 @@
 #include <future>
 #include <optional>
 
-#include "Ui/BackgroundLoad.h"
+#include "ui/BackgroundLoad.h"
 
 using namespace larkspan;
 

@@ -6,8 +6,8 @@
 #include <QTest>
 
 #include "QuickScreen.h"
-#include "Ui/Icons.h"
-#include "Ui/SymbolImageProvider.h"
+#include "ui/Icons.h"
+#include "ui/SymbolImageProvider.h"
 
 using namespace larkspan;
 

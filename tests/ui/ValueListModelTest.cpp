@@ -3,7 +3,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "Ui/ValueListModel.h"
+#include "ui/ValueListModel.h"
 
 using namespace larkspan;
 

@@ -7,7 +7,7 @@
 
 #include "Analytics/AnalyticsLoad.h"
 #include "Classification/Palette.h"
-#include "Ui/QtConversion.h"
+#include "ui/QtConversion.h"
 
 namespace larkspan {
 

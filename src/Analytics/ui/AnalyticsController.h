@@ -1,6 +1,6 @@
 // The analytics tab's state: the chosen range and day, and the page of the last load as value items
 // and list models for AnalyticsView. A load reads the period and the catalogue and computes the page
-// on a worker (Ui/BackgroundLoad), so the window never waits; the old figures stand until the new
+// on a worker (ui/BackgroundLoad), so the window never waits; the old figures stand until the new
 // ones arrive. What the page says comes from Analytics/AnalyticsScreen; this class adds the user's
 // locale for dates and times.
 //
@@ -18,8 +18,8 @@
 #include "Analytics/ui/AnalyticsItems.h"
 #include "Data/Database.h"
 #include "Platform/Clock.h"
-#include "Ui/BackgroundLoad.h"
-#include "Ui/ValueListModel.h"
+#include "ui/BackgroundLoad.h"
+#include "ui/ValueListModel.h"
 
 namespace larkspan {
 

@@ -6,7 +6,7 @@
 #include "Analytics/AnalyticsCalculations.h"
 #include "Analytics/CalendarSummary.h"
 #include "Platform/LocalDay.h"
-#include "Ui/QtConversion.h"
+#include "ui/QtConversion.h"
 
 namespace larkspan {
 

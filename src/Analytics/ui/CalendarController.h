@@ -19,8 +19,8 @@
 #include "Analytics/ui/CalendarItems.h"
 #include "App/ui/DashboardController.h"
 #include "Platform/Clock.h"
-#include "Ui/BackgroundLoad.h"
-#include "Ui/ValueListModel.h"
+#include "ui/BackgroundLoad.h"
+#include "ui/ValueListModel.h"
 
 namespace larkspan {
 

@@ -1,7 +1,7 @@
 #include "App/ui/DashboardController.h"
 
 #include "Classification/Palette.h"
-#include "Ui/QtConversion.h"
+#include "ui/QtConversion.h"
 
 namespace larkspan {
 

@@ -19,7 +19,7 @@
 #include "Data/Database.h"
 #include "Platform/Subscription.h"
 #include "Tracking/SessionManager.h"
-#include "Ui/ValueListModel.h"
+#include "ui/ValueListModel.h"
 
 namespace larkspan {
 

@@ -4,7 +4,7 @@
 #include <QQuickWindow>
 #include <QSGRendererInterface>
 
-#include "Ui/SymbolImageProvider.h"
+#include "ui/SymbolImageProvider.h"
 
 // Generated with the module; the engine calls it on the first `import Larkspan`.
 void qml_register_types_Larkspan();

@@ -1,4 +1,4 @@
-// Makes the `Larkspan` QML module (every view and controller of src/*/ui/, and the shared kit of src/Ui/)
+// Makes the `Larkspan` QML module (every view and controller of src/*/ui/, and the shared kit of src/ui/)
 // usable in a QML engine. The module is linked statically, without a plugin: its types register
 // themselves the first time an engine imports `Larkspan`, and its files live in the resources under
 // qrc:/qt/qml/Larkspan/.

@@ -10,7 +10,7 @@
 #include "App/QuickSummary.h"
 #include "Classification/Palette.h"
 #include "Platform/LocalDay.h"
-#include "Ui/QtConversion.h"
+#include "ui/QtConversion.h"
 
 namespace larkspan {
 

@@ -24,7 +24,7 @@
 #include "Platform/Clock.h"
 #include "Platform/Subscription.h"
 #include "Tracking/SessionManager.h"
-#include "Ui/ValueListModel.h"
+#include "ui/ValueListModel.h"
 
 namespace larkspan {
 

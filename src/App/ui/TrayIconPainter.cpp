@@ -6,7 +6,7 @@
 #include <QPainterPath>
 
 #include "Classification/Palette.h"
-#include "Ui/QtConversion.h"
+#include "ui/QtConversion.h"
 
 namespace larkspan {
 

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "Classification/CategorySettings.h"
-#include "Ui/QtConversion.h"
+#include "ui/QtConversion.h"
 
 namespace larkspan {
 

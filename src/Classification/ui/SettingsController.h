@@ -17,8 +17,8 @@
 #include "App/ui/DashboardController.h"
 #include "Classification/ui/SettingsItems.h"
 #include "Review/DataRetention.h"
-#include "Ui/BackgroundLoad.h"
-#include "Ui/ValueListModel.h"
+#include "ui/BackgroundLoad.h"
+#include "ui/ValueListModel.h"
 
 namespace larkspan {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "Focus/FocusScreen.h"
-#include "Ui/QtConversion.h"
+#include "ui/QtConversion.h"
 
 namespace larkspan {
 

@@ -16,8 +16,8 @@
 #include "Focus/FocusTasks.h"
 #include "Focus/ui/FocusItems.h"
 #include "Platform/Subscription.h"
-#include "Ui/BackgroundLoad.h"
-#include "Ui/ValueListModel.h"
+#include "ui/BackgroundLoad.h"
+#include "ui/ValueListModel.h"
 
 namespace larkspan {
 

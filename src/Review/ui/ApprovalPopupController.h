@@ -10,7 +10,7 @@
 
 #include "Review/ApprovalPopup.h"
 #include "Review/ui/PromptItems.h"
-#include "Ui/ValueListModel.h"
+#include "ui/ValueListModel.h"
 
 namespace larkspan {
 

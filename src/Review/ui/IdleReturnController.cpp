@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "Ui/QtConversion.h"
+#include "ui/QtConversion.h"
 
 namespace larkspan {
 

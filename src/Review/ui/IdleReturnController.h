@@ -6,7 +6,7 @@
 #include <QObject>
 #include "Review/IdleReturn.h"
 #include "Review/ui/PromptItems.h"
-#include "Ui/ValueListModel.h"
+#include "ui/ValueListModel.h"
 
 namespace larkspan {
 

@@ -13,8 +13,8 @@
 #include "Review/PendingReview.h"
 #include "Review/ui/PromptItems.h"
 #include "Review/ui/ReviewItems.h"
-#include "Ui/BackgroundLoad.h"
-#include "Ui/ValueListModel.h"
+#include "ui/BackgroundLoad.h"
+#include "ui/ValueListModel.h"
 
 namespace larkspan {
 

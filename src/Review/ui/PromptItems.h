@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "Review/ApprovalPopup.h"
-#include "Ui/QtConversion.h"
+#include "ui/QtConversion.h"
 
 namespace larkspan {
 

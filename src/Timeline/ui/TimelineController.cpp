@@ -9,7 +9,7 @@
 #include "Classification/Palette.h"
 #include "Platform/LocalDay.h"
 #include "Timeline/TimelineLabels.h"
-#include "Ui/QtConversion.h"
+#include "ui/QtConversion.h"
 
 namespace larkspan {
 

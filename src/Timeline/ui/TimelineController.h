@@ -22,8 +22,8 @@
 #include "Timeline/CanvasLayout.h"
 #include "Timeline/TimelineScreen.h"
 #include "Timeline/ui/TimelineItems.h"
-#include "Ui/BackgroundLoad.h"
-#include "Ui/ValueListModel.h"
+#include "ui/BackgroundLoad.h"
+#include "ui/ValueListModel.h"
 
 namespace larkspan {
 

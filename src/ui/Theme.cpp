@@ -1,4 +1,4 @@
-#include "Ui/Theme.h"
+#include "ui/Theme.h"
 
 #include <QEvent>
 #include <QGuiApplication>

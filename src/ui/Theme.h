@@ -12,7 +12,7 @@
 #include <QObject>
 
 #include "Classification/Palette.h"
-#include "Ui/QtConversion.h"
+#include "ui/QtConversion.h"
 
 namespace larkspan {
 

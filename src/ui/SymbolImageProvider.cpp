@@ -1,6 +1,6 @@
-#include "Ui/SymbolImageProvider.h"
+#include "ui/SymbolImageProvider.h"
 
-#include "Ui/Icons.h"
+#include "ui/Icons.h"
 
 namespace larkspan {
 

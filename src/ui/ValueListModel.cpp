@@ -1,4 +1,4 @@
-#include "Ui/ValueListModel.h"
+#include "ui/ValueListModel.h"
 
 namespace larkspan {
 

@@ -1,10 +1,10 @@
-#include "Ui/Icons.h"
+#include "ui/Icons.h"
 
 #include <QFile>
 #include <QPainter>
 #include <QSvgRenderer>
 
-#include "Ui/SymbolImageProvider.h"
+#include "ui/SymbolImageProvider.h"
 
 namespace larkspan {
 
