@@ -34,7 +34,7 @@ AnalyticsData ninetyDays() {
     for (int i = 0; i < kRecords; ++i) {
         const int day = i / perDay;
         const double offset = 7 * 3600 + (16.0 * 3600 / perDay) * (i % perDay);
-        ActivityRecord r;
+        ActivityTotal r;
         r.appName = apps[random() % apps.size()];
         if (random() % 10 != 0)
             r.categoryID = 1 + static_cast<std::int64_t>(random() % 22);  // 22 is unknown

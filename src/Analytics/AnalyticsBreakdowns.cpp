@@ -19,10 +19,10 @@ double fractionOf(std::int64_t part, std::int64_t whole) {
 
 }  // namespace
 
-std::vector<CategoryFigure> categoryFigures(const std::vector<ActivityRecord>& records,
+std::vector<CategoryFigure> categoryFigures(const std::vector<ActivityTotal>& records,
                                             const CategoriesByID& catMap) {
     std::unordered_map<std::int64_t, std::int64_t> secondsByCategory;
-    for (const ActivityRecord& record : records) {
+    for (const ActivityTotal& record : records) {
         secondsByCategory[effectiveCategoryID(record)] += record.durationSeconds;
     }
     std::vector<CategoryFigure> figures;
@@ -54,10 +54,10 @@ std::vector<CategoryFigure> categoryFigures(const std::vector<ActivityRecord>& r
     return figures;
 }
 
-std::vector<AppFigure> appFigures(const std::vector<ActivityRecord>& records, const CategoriesByID& catMap) {
+std::vector<AppFigure> appFigures(const std::vector<ActivityTotal>& records, const CategoriesByID& catMap) {
     std::vector<AppFigure> figures;
     std::unordered_map<std::string, std::size_t> indexByApp;
-    for (const ActivityRecord& record : records) {
+    for (const ActivityTotal& record : records) {
         auto [entry, added] = indexByApp.try_emplace(record.appName, figures.size());
         if (added) {
             const auto category = catMap.find(effectiveCategoryID(record));

@@ -31,7 +31,7 @@ struct CategoryFigure {
 // Seconds per effective category, longest first (equal seconds: lower id first), at most 8 rows.
 // Categories past the eighth drop out of the list but stay in the total the fractions divide by, so
 // the fractions shown may add up to less than 1. An id missing from the catalogue keeps its own row.
-std::vector<CategoryFigure> categoryFigures(const std::vector<ActivityRecord>& records,
+std::vector<CategoryFigure> categoryFigures(const std::vector<ActivityTotal>& records,
                                             const CategoriesByID& catMap);
 
 // One row of the application breakdown.
@@ -45,7 +45,7 @@ struct AppFigure {
 
 // Seconds per application name, longest first (equal seconds: by name), at most 10 rows. One name
 // under two bundle ids is one row, and all away spans are the one row "Away".
-std::vector<AppFigure> appFigures(const std::vector<ActivityRecord>& records, const CategoriesByID& catMap);
+std::vector<AppFigure> appFigures(const std::vector<ActivityTotal>& records, const CategoriesByID& catMap);
 
 // One row of the top websites.
 struct WebsiteFigure {

@@ -8,9 +8,9 @@
 
 namespace larkspan::analytics {
 
-PeriodTotals periodTotals(const std::vector<ActivityRecord>& records, const CategoriesByID& catMap) {
+PeriodTotals periodTotals(const std::vector<ActivityTotal>& records, const CategoriesByID& catMap) {
     PeriodTotals totals;
-    for (const ActivityRecord& record : records) {
+    for (const ActivityTotal& record : records) {
         totals.totalSeconds += record.durationSeconds;
         if (isProductive(record, catMap))
             totals.productiveSeconds += record.durationSeconds;
@@ -27,10 +27,10 @@ std::int64_t productivityScore(const PeriodTotals& totals) {
     return static_cast<std::int64_t>(std::clamp(std::trunc(percent), -1e15, 1e15));
 }
 
-std::int64_t uniqueDays(const std::vector<ActivityRecord>& records) {
+std::int64_t uniqueDays(const std::vector<ActivityTotal>& records) {
     LocalDayCache days;
     std::vector<int> seen;
-    for (const ActivityRecord& record : records) {
+    for (const ActivityTotal& record : records) {
         const int day = days.dayOf(record.startTime).ordinal();
         if (seen.empty() || seen.back() != day)
             seen.push_back(day);
@@ -39,13 +39,13 @@ std::int64_t uniqueDays(const std::vector<ActivityRecord>& records) {
     return std::unique(seen.begin(), seen.end()) - seen.begin();
 }
 
-DayGroups groupByDay(const std::vector<ActivityRecord>& records) {
+DayGroups groupByDay(const std::vector<ActivityTotal>& records) {
     LocalDayCache days;
     DayGroups groups;
     // Consecutive records nearly always share a day, so the key is built once per run of them.
     int lastDay = -1;
-    std::vector<const ActivityRecord*>* group = nullptr;
-    for (const ActivityRecord& record : records) {
+    std::vector<const ActivityTotal*>* group = nullptr;
+    for (const ActivityTotal& record : records) {
         const LocalDay day = days.dayOf(record.startTime);
         if (group == nullptr || day.ordinal() != lastDay) {
             char key[16];

@@ -27,19 +27,19 @@ struct PeriodTotals {
     bool operator==(const PeriodTotals&) const = default;
 };
 
-PeriodTotals periodTotals(const std::vector<ActivityRecord>& records, const CategoriesByID& catMap);
+PeriodTotals periodTotals(const std::vector<ActivityTotal>& records, const CategoriesByID& catMap);
 
 // Productive ÷ total × 100, truncated toward zero; 0 when the total is 0 or less.
 std::int64_t productivityScore(const PeriodTotals& totals);
 
 // How many distinct local days the records' starts fall on. A record that runs past midnight
 // counts for the day on which it began.
-std::int64_t uniqueDays(const std::vector<ActivityRecord>& records);
+std::int64_t uniqueDays(const std::vector<ActivityTotal>& records);
 
 // Records grouped by the local day of their start, keyed "MM/dd" with no year, each group in the
 // order of `records`. The groups point into `records` and are valid as long as it is unchanged.
-using DayGroups = std::map<std::string, std::vector<const ActivityRecord*>>;
-DayGroups groupByDay(const std::vector<ActivityRecord>& records);
+using DayGroups = std::map<std::string, std::vector<const ActivityTotal*>>;
+DayGroups groupByDay(const std::vector<ActivityTotal>& records);
 
 // The part of a day key after its last "/", or the whole key without one: "03/07" gives "07".
 std::string dayLabel(std::string_view key);

@@ -1,5 +1,6 @@
 #include "Analytics/AnalyticsLoad.h"
 
+#include <utility>
 #include <vector>
 
 namespace larkspan::analytics {
@@ -7,11 +8,11 @@ namespace larkspan::analytics {
 AnalyticsData load(Database& database, TimeRange range, Date selectedDay, Date now) {
     const DateInterval period = dateRange(range, selectedDay, now);
     AnalyticsData data;
-    data.activities = database.fetchActivityTotals(period.from, period.to);
-    std::erase_if(data.activities, [](const ActivityRecord& record) {
-        return record.durationSeconds <= kLongestDroppedSeconds;
-    });
-    data.topDomains = database.fetchTopDomains(period.from, period.to, kLoadedDomains);
+    PeriodActivities rows = database.fetchPeriodActivities(period.from, period.to, kLongestDroppedSeconds);
+    data.activities = std::move(rows.activities);
+    if (rows.domains.size() > kLoadedDomains)
+        rows.domains.resize(kLoadedDomains);
+    data.topDomains = std::move(rows.domains);
     const DateInterval days = pomodoroDays(range, selectedDay, period);
     for (const auto& [day, count] : database.fetchDailyPomoCounts(days.from, days.to))
         data.totalPomos += count;

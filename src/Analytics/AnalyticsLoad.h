@@ -13,12 +13,12 @@
 namespace larkspan::analytics {
 
 inline constexpr std::int64_t kLongestDroppedSeconds = 5;  // shorter records are samples, not activities
-inline constexpr int kLoadedDomains = 10;
+inline constexpr std::size_t kLoadedDomains = 10;
 
 // The data of the period `range` names at `now` (see dateRange): the records that start in it and
-// last longer than 5 seconds, oldest first, with the fields its totals read (fetchActivityTotals); its
-// 10 longest websites, counted by the store over all its records, short ones included; and the
-// pomodoros of its local days (for `day` the selected day alone). A store that fails gives empty lists and 0.
+// last longer than 5 seconds, oldest first, with the fields its totals read; its 10 longest websites,
+// counted over all its records, short ones included; and the pomodoros of its local days (for `day`
+// the selected day alone). A store that fails gives empty lists and 0.
 AnalyticsData load(Database& database, TimeRange range, Date selectedDay, Date now);
 
 }  // namespace larkspan::analytics

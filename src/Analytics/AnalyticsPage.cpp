@@ -4,7 +4,7 @@ namespace larkspan::analytics {
 
 AnalyticsPage analyticsPage(const AnalyticsData& data, const std::vector<Category>& categories) {
     const CategoriesByID catMap = categoriesByID(categories);
-    const std::vector<ActivityRecord>& records = data.activities;
+    const std::vector<ActivityTotal>& records = data.activities;
     AnalyticsPage page;
 
     const PeriodTotals totals = periodTotals(records, catMap);

@@ -9,7 +9,7 @@
 
 namespace larkspan::analytics {
 
-std::vector<DailyBar> dailySeries(const std::vector<ActivityRecord>& records, const CategoriesByID& catMap,
+std::vector<DailyBar> dailySeries(const std::vector<ActivityTotal>& records, const CategoriesByID& catMap,
                                   double chartHeight) {
     struct Day {
         int ordinal;  // the oldest date in the group; orders groups across a change of year
@@ -21,7 +21,7 @@ std::vector<DailyBar> dailySeries(const std::vector<ActivityRecord>& records, co
         Day day{INT_MAX, {}};
         day.bar.key = key;
         day.bar.label = dayLabel(key);
-        for (const ActivityRecord* record : group) {
+        for (const ActivityTotal* record : group) {
             day.ordinal = std::min(day.ordinal, days.dayOf(record->startTime).ordinal());
             day.bar.totalSeconds += record->durationSeconds;
             if (isProductive(*record, catMap))
@@ -51,12 +51,12 @@ std::vector<DailyBar> dailySeries(const std::vector<ActivityRecord>& records, co
     return bars;
 }
 
-HourlyMinutes hourlyProductiveMinutes(const std::vector<ActivityRecord>& records,
+HourlyMinutes hourlyProductiveMinutes(const std::vector<ActivityTotal>& records,
                                       const CategoriesByID& catMap) {
     const double days = static_cast<double>(std::max<std::int64_t>(1, uniqueDays(records)));
     LocalDayCache hours;
     HourlyMinutes minutes;
-    for (const ActivityRecord& record : records) {
+    for (const ActivityTotal& record : records) {
         if (record.durationSeconds <= 0 || !isProductive(record, catMap))
             continue;
         minutes[hours.hourOf(record.startTime)] += static_cast<double>(record.durationSeconds) / 60;

@@ -29,14 +29,14 @@ struct DailyBar {
 // max(2, chartHeight × day total ÷ largest day total) high, and its productive part is that height
 // times productive ÷ total. Days are told apart within the year-less key by their date, so a window
 // over New Year puts December before January.
-std::vector<DailyBar> dailySeries(const std::vector<ActivityRecord>& records, const CategoriesByID& catMap,
+std::vector<DailyBar> dailySeries(const std::vector<ActivityTotal>& records, const CategoriesByID& catMap,
                                   double chartHeight);
 
 // Productive minutes by local hour of the day (0 to 23), averaged over the days that have any
 // record. Each productive record with a positive duration adds all its minutes to the hour in which
 // it began, however long it runs. Hours without productive work have no entry.
 using HourlyMinutes = std::map<int, double>;
-HourlyMinutes hourlyProductiveMinutes(const std::vector<ActivityRecord>& records,
+HourlyMinutes hourlyProductiveMinutes(const std::vector<ActivityTotal>& records,
                                       const CategoriesByID& catMap);
 
 inline constexpr int kFirstChartHour = 6;  // the pattern chart shows hours 6 to 23

@@ -9,12 +9,12 @@
 
 namespace larkspan::analytics {
 
-inline std::int64_t effectiveCategoryID(const ActivityRecord& record) {
+inline std::int64_t effectiveCategoryID(const ActivityTotal& record) {
     return record.categoryID.value_or(category_id::other);
 }
 
 // Whether the record's effective category is in `catMap` and productive. An unknown id never is.
-inline bool isProductive(const ActivityRecord& record, const CategoriesByID& catMap) {
+inline bool isProductive(const ActivityTotal& record, const CategoriesByID& catMap) {
     const auto found = catMap.find(effectiveCategoryID(record));
     return found != catMap.end() && found->second.productivity == Productivity::productive;
 }

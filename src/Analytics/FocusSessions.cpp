@@ -6,7 +6,7 @@
 
 namespace larkspan::analytics {
 
-std::vector<FocusSession> focusSessions(const std::vector<ActivityRecord>& activities,
+std::vector<FocusSession> focusSessions(const std::vector<ActivityTotal>& activities,
                                         const CategoriesByID& catMap) {
     struct Span {
         Date start;
@@ -14,7 +14,7 @@ std::vector<FocusSession> focusSessions(const std::vector<ActivityRecord>& activ
         std::int64_t seconds;
     };
     std::vector<Span> spans;
-    for (const ActivityRecord& record : activities) {
+    for (const ActivityTotal& record : activities) {
         if (record.durationSeconds <= 0 || !std::isfinite(record.startTime) ||
             !isProductive(record, catMap)) {
             continue;
@@ -24,8 +24,10 @@ std::vector<FocusSession> focusSessions(const std::vector<ActivityRecord>& activ
              record.endTime.value_or(record.startTime + static_cast<double>(record.durationSeconds)),
              record.durationSeconds});
     }
-    std::stable_sort(spans.begin(), spans.end(),
-                     [](const Span& a, const Span& b) { return a.start < b.start; });
+    // A load gives them oldest first already.
+    const auto byStart = [](const Span& a, const Span& b) { return a.start < b.start; };
+    if (!std::is_sorted(spans.begin(), spans.end(), byStart))
+        std::stable_sort(spans.begin(), spans.end(), byStart);
 
     std::vector<FocusSession> sessions;
     std::optional<FocusSession> run;

@@ -35,7 +35,7 @@ struct FocusSession {
 // Records that are not productive, or have a duration of 0 or less, or a start that is not a finite
 // instant, take no part. A record's end is its `endTime`, or start plus duration while it is open.
 // Within a run the end is replaced by each joining record's end, never the larger of the two.
-std::vector<FocusSession> focusSessions(const std::vector<ActivityRecord>& activities,
+std::vector<FocusSession> focusSessions(const std::vector<ActivityTotal>& activities,
                                         const CategoriesByID& catMap);
 
 // The greatest duration among `sessions`; 0 when there are none.

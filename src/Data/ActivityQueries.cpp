@@ -118,25 +118,6 @@ std::vector<ActivityRecord> Database::fetchActivities(Date from, Date to) {
     return activities;
 }
 
-std::vector<ActivityRecord> Database::fetchActivityTotals(Date from, Date to) {
-    std::vector<ActivityRecord> activities;
-    queryRows(
-        "SELECT id, app_name, category_id, start_time, end_time, duration_seconds\nFROM activities\n"
-        "WHERE start_time >= ? AND start_time <= ?\nORDER BY start_time ASC",
-        [&](sqlite3_stmt* stmt) { bindValues(stmt, from, to); },
-        [&](sqlite3_stmt* stmt) {
-            ActivityRecord& record = activities.emplace_back();
-            record.id = sqlite3_column_int64(stmt, 0);
-            if (const char* name = columnText(stmt, 1))
-                record.appName = name;
-            record.categoryID = columnOptionalInt64(stmt, 2);
-            record.startTime = sqlite3_column_double(stmt, 3);
-            record.endTime = columnOptionalDouble(stmt, 4);
-            record.durationSeconds = sqlite3_column_int(stmt, 5);
-        });
-    return activities;
-}
-
 std::optional<ActivityRecord> Database::fetchActivity(std::int64_t id) {
     std::optional<ActivityRecord> activity;
     queryRows(

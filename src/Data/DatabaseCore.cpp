@@ -19,6 +19,30 @@ namespace {
 
 constexpr int kBusyTimeoutMilliseconds = 5000;
 
+// What visit_row's first argument points at: the callback, and what it threw.
+struct RowVisit {
+    static constexpr const char* kType = "larkspan.RowVisit";
+    const Database::RowValues& each;
+    std::exception_ptr failure;
+};
+
+void visitRow(sqlite3_context* context, int count, sqlite3_value** values) {
+    auto* visit =
+        count > 0 ? static_cast<RowVisit*>(sqlite3_value_pointer(values[0], RowVisit::kType)) : nullptr;
+    if (visit == nullptr) {
+        sqlite3_result_error(context, "visit_row needs its visitor", -1);
+        return;
+    }
+    try {
+        visit->each(values + 1);
+        sqlite3_result_null(context);
+    } catch (...) {
+        // Nothing may unwind through SQLite; the statement fails and visitRows rethrows.
+        visit->failure = std::current_exception();
+        sqlite3_result_error(context, "row visitor failed", -1);
+    }
+}
+
 // SQLite must run in serialized mode before the first connection opens. The library's default is
 // usually serialized already; sqlite3_config fails harmlessly when SQLite has been initialised by
 // someone else, and openConnection checks the mode the connection actually got.
@@ -91,6 +115,9 @@ void Database::prepareStore() {
     exec("PRAGMA journal_mode=WAL");
     exec("PRAGMA foreign_keys=ON");
     exec("PRAGMA cache_size=-4000");
+    // Direct only: no trigger or view of a tampered file can call back into the program.
+    sqlite3_create_function_v2(db_.get(), "visit_row", -1, SQLITE_UTF8 | SQLITE_DIRECTONLY, nullptr, visitRow,
+                               nullptr, nullptr, nullptr);
     migrate();
     seedCategories();
 }
@@ -153,6 +180,22 @@ void Database::queryRows(const std::string& sql, const Binder& bind, const RowRe
         while (sqlite3_step(statement.get()) == SQLITE_ROW)
             each(statement.get());
     });
+}
+
+void Database::visitRows(const std::string& sql, const Binder& bind, const RowValues& each) {
+    RowVisit visit{each, nullptr};
+    queue_.sync([&] {
+        Statement statement(db_.get(), sql);
+        if (!statement)
+            return;
+        sqlite3_bind_pointer(statement.get(), 1, &visit, RowVisit::kType, nullptr);
+        if (bind)
+            bind(statement.get());
+        while (sqlite3_step(statement.get()) == SQLITE_ROW) {
+        }
+    });
+    if (visit.failure)
+        std::rethrow_exception(visit.failure);
 }
 
 void Database::runOnQueue(const std::function<void()>& work) {

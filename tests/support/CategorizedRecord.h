@@ -3,9 +3,10 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
-#include "ActivityBuilder.h"
 #include "Classification/Category.h"
+#include "Tracking/ActivityRecord.h"
 
 namespace larkspan::test {
 
@@ -14,9 +15,9 @@ inline constexpr std::int64_t kMusic = 12;        // neutral
 inline constexpr std::int64_t kSocialMedia = 17;  // unproductive
 inline constexpr std::int64_t kGaming = 19;       // unproductive
 
-inline ActivityRecord record(Date start, std::int64_t seconds,
-                             std::optional<std::int64_t> category = kCoding) {
-    return ActivityBuilder(0, start, seconds).category(category);
+inline ActivityTotal record(Date start, std::int64_t seconds, std::optional<std::int64_t> category = kCoding,
+                            std::string app = "Notes") {
+    return {std::move(app), category, start, start + static_cast<double>(seconds), seconds};
 }
 
 inline const CategoriesByID& seededMap() {

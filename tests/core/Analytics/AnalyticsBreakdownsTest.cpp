@@ -6,20 +6,20 @@
 #include <string>
 #include <vector>
 
-#include "ActivityBuilder.h"
+#include "CategorizedRecord.h"
 
 namespace larkspan::analytics {
 namespace {
 
-ActivityRecord record(std::string app, std::int64_t seconds, std::optional<std::int64_t> category) {
-    return test::ActivityBuilder(0, 0, seconds).app(std::move(app)).category(category);
+ActivityTotal record(std::string app, std::int64_t seconds, std::optional<std::int64_t> category) {
+    return test::record(0, seconds, category, std::move(app));
 }
 
 TEST(CategoryFigures, EightLongestWithFractionsOfEveryCategory) {
     const CategoriesByID catMap = categoriesByID(Category::seeded());
     // Nine categories: 1 to 8 with 100 to 800 seconds, one with 50 that drops out of the list but
     // stays in the total of 3650. No category counts under 21; two ids tie at 300.
-    std::vector<ActivityRecord> records;
+    std::vector<ActivityTotal> records;
     for (std::int64_t id = 1; id <= 7; ++id)
         records.push_back(record("App", id * 100, id));
     records.push_back(record("App", 500, std::nullopt));
@@ -52,9 +52,9 @@ TEST(CategoryFigures, UnknownIdKeepsItsOwnRowAsOther) {
 
 TEST(AppFigures, OneRowPerNameWithItsFirstIconScaledToTheLongest) {
     const CategoriesByID catMap = categoriesByID(Category::seeded());
-    std::vector<ActivityRecord> records = {record("Browser", 100, 17), record("Browser", 500, 1),
-                                           record("Away", 300, 15), record("Away", 100, 15),
-                                           record("Mystery", 200, 99)};
+    std::vector<ActivityTotal> records = {record("Browser", 100, 17), record("Browser", 500, 1),
+                                          record("Away", 300, 15), record("Away", 100, 15),
+                                          record("Mystery", 200, 99)};
     for (int i = 0; i < 10; ++i)
         records.push_back(record("Tool " + std::to_string(i), 10, 1));
     const auto figures = appFigures(records, catMap);

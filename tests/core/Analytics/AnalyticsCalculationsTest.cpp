@@ -34,8 +34,8 @@ TEST(DayLabel, PartAfterTheLastSlash) {
 TEST(PeriodTotals, ProductiveOnlyForKnownProductiveCategories) {
     const CategoriesByID& catMap = seededMap();
     // No category reads as "Other" (neutral); id 99 is not in the catalogue and never productive.
-    const std::vector<ActivityRecord> records = {record(0, 2000), record(0, 500, std::nullopt),
-                                                 record(0, 700, 99), record(0, 800, kGaming)};
+    const std::vector<ActivityTotal> records = {record(0, 2000), record(0, 500, std::nullopt),
+                                                record(0, 700, 99), record(0, 800, kGaming)};
     const PeriodTotals totals = periodTotals(records, catMap);
     EXPECT_EQ(totals, (PeriodTotals{4000, 2000}));
     EXPECT_EQ(productivityScore(totals), 50);
@@ -49,7 +49,7 @@ TEST(UniqueDays, CountsLocalDaysOfTheStarts) {
     ScopedTimeZone zone{"Asia/Kolkata"};
     EXPECT_EQ(uniqueDays({}), 0);
     // The 23:30 record runs into the 2nd but counts on the 1st; records out of order still count once.
-    const std::vector<ActivityRecord> records = {
+    const std::vector<ActivityTotal> records = {
         record(localInstant(2026, 5, 1, 23, 30), 7200), record(localInstant(2026, 5, 3, 0, 0), 60),
         record(localInstant(2026, 5, 1, 8), 60), record(localInstant(2026, 5, 3, 23, 59, 59), 60)};
     EXPECT_EQ(uniqueDays(records), 2);
@@ -57,13 +57,13 @@ TEST(UniqueDays, CountsLocalDaysOfTheStarts) {
 
 TEST(GroupByDay, KeysAreLocalMonthAndDayInRecordOrder) {
     ScopedTimeZone zone{"Asia/Kolkata"};
-    const std::vector<ActivityRecord> records = {
+    const std::vector<ActivityTotal> records = {
         record(localInstant(2026, 5, 1, 23, 59), 1), record(localInstant(2026, 5, 2, 0, 0), 2),
         record(localInstant(2026, 5, 1, 6), 3), record(localInstant(2025, 5, 2, 12), 4)};
     const DayGroups groups = groupByDay(records);
     ASSERT_EQ(groups.size(), 2u);
     std::vector<std::int64_t> first;
-    for (const ActivityRecord* r : groups.at("05/01"))
+    for (const ActivityTotal* r : groups.at("05/01"))
         first.push_back(r->durationSeconds);
     EXPECT_EQ(first, (std::vector<std::int64_t>{1, 3}));
     // The key holds no year: the same date of another year joins the group.

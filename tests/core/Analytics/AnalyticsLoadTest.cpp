@@ -28,7 +28,7 @@ protected:
     }
     static std::vector<std::int64_t> durations(const AnalyticsData& data) {
         std::vector<std::int64_t> seconds;
-        for (const ActivityRecord& record : data.activities)
+        for (const ActivityTotal& record : data.activities)
             seconds.push_back(record.durationSeconds);
         return seconds;
     }
@@ -50,6 +50,7 @@ TEST_F(AnalyticsLoad, WeekKeepsRecordsOverFiveSecondsButCountsEveryWebsiteSecond
     add(localInstant(2026, 11, 12, 9), 5, "short.example");
     add(localInstant(2026, 11, 12, 10), 6);
     add(localInstant(2026, 11, 12, 11), 300, "short.example");
+    add(localInstant(2026, 11, 12, 12), 900, "");  // no website, like a NULL domain
     for (int i = 1; i <= 10; ++i)
         add(localInstant(2026, 11, 13, 8, i), 10 * i, "site" + std::to_string(i) + ".example");
     add(now, 30);
@@ -57,7 +58,7 @@ TEST_F(AnalyticsLoad, WeekKeepsRecordsOverFiveSecondsButCountsEveryWebsiteSecond
 
     const AnalyticsData data = load(db, TimeRange::week, now, now);
     EXPECT_EQ(durations(data),
-              (std::vector<std::int64_t>{60, 6, 300, 10, 20, 30, 40, 50, 60, 70, 80, 90, 100, 30}));
+              (std::vector<std::int64_t>{60, 6, 300, 900, 10, 20, 30, 40, 50, 60, 70, 80, 90, 100, 30}));
     // The 5-second visit is no activity here, yet its seconds count for its website; of eleven
     // websites the ten longest come.
     ASSERT_EQ(data.topDomains.size(), 10u);

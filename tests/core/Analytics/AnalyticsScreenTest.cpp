@@ -13,13 +13,13 @@ namespace {
 
 using namespace test;
 
-AnalyticsPage pageOf(std::vector<ActivityRecord> records, std::vector<DomainTotal> domains = {}) {
+AnalyticsPage pageOf(std::vector<ActivityTotal> records, std::vector<DomainTotal> domains = {}) {
     return analyticsPage({std::move(records), std::move(domains), 0}, Category::seeded());
 }
 
 // `count` focus sessions of 30 minutes, an hour apart.
-std::vector<ActivityRecord> sessions(int count) {
-    std::vector<ActivityRecord> records;
+std::vector<ActivityTotal> sessions(int count) {
+    std::vector<ActivityTotal> records;
     for (int i = 0; i < count; ++i)
         records.push_back(record(localInstant(2026, 3, 3, 8 + i), 1800 + i));
     return records;
@@ -81,8 +81,8 @@ TEST(AnalyticsScreen, ADeletedCategoryReadsOtherAndABackwardClockDrawsNothingNeg
               "15m, 60 %");
 
     // Written before the clock went back a day: a negative duration, and an end before its start.
-    const AnalyticsPage page = pageOf({record(nine, 600), record(nine + 700, -86400),
-                                       ActivityBuilder(0, nine + 800, 300).category(kCoding).endingAt(nine)});
+    const AnalyticsPage page =
+        pageOf({record(nine, 600), record(nine + 700, -86400), {"Notes", kCoding, nine + 800, nine, 300}});
     for (const DailyBar& bar : page.dailyBars) {
         EXPECT_GE(bar.productiveHeight, 0);
         EXPECT_LE(bar.productiveHeight, bar.height);

@@ -18,7 +18,7 @@ using namespace test;
 TEST(HourlyProductiveMinutes, AveragesOverDaysWithAnyRecord) {
     ScopedTimeZone zone{"Europe/Berlin"};
     // An hour of work at 09:00 on one day; the two other days have only neutral time, yet count.
-    const std::vector<ActivityRecord> records = {
+    const std::vector<ActivityTotal> records = {
         record(localInstant(2026, 6, 1, 9), 3600),
         record(localInstant(2026, 6, 2, 14), 600, kMusic),
         record(localInstant(2026, 6, 3, 23, 50), 1200, kMusic),
@@ -72,7 +72,7 @@ TEST(HourlyChart, ColumnsForSixToTwentyThreeScaledToTheLargest) {
 
 TEST(DailySeries, WeekOverNewYearRunsFromDecemberToJanuary) {
     ScopedTimeZone zone{"Pacific/Auckland"};
-    std::vector<ActivityRecord> records;
+    std::vector<ActivityTotal> records;
     for (int day = 28; day <= 34; ++day)
         records.push_back(record(localInstant(2026, 12, day, 10), 600 * (day - 27)));
     std::string labels;
@@ -83,7 +83,7 @@ TEST(DailySeries, WeekOverNewYearRunsFromDecemberToJanuary) {
 
 TEST(DailySeries, BarsScaleToTheLongestDayWithTheirProductivePart) {
     ScopedTimeZone zone{"Europe/Berlin"};
-    const std::vector<ActivityRecord> records = {
+    const std::vector<ActivityTotal> records = {
         record(localInstant(2026, 3, 7, 9), 3000),
         record(localInstant(2026, 3, 7, 11), 1000, kMusic),
         record(localInstant(2026, 3, 9, 23, 59), 2000, kMusic),  // runs past midnight, counts on the 9th

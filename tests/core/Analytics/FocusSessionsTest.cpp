@@ -20,7 +20,7 @@ TEST(FocusSessions, RunsOfProductiveWorkFromTwentyFiveMinutesJoinedAcrossGapsUpT
     open.endTime.reset();
     struct Case {
         const char* name;
-        std::vector<ActivityRecord> records;
+        std::vector<ActivityTotal> records;
         std::vector<FocusSession> sessions;
     };
     const Case cases[] = {

@@ -42,6 +42,7 @@ TEST(DatabaseCore, FreshFileGetsTheSchemaTheSeededCatalogueAndWal) {
         raw.text("SELECT group_concat(name, ' ') FROM (SELECT name FROM sqlite_master WHERE name NOT LIKE "
                  "'sqlite_%' ORDER BY name)"),
         "activities approval_queue categories daily_pomo_counts idx_act_app idx_act_approval idx_act_start "
+        "idx_act_totals "
         "idx_todo_date learned_rules todo_items");
     // Foreign keys are enforced: a rule may not name a category that does not exist.
     EXPECT_THROW(

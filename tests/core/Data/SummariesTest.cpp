@@ -13,12 +13,10 @@ using test::TempDir;
 
 class Summaries : public ::testing::Test {
 protected:
-    void add(Date start, std::int64_t seconds, std::optional<std::int64_t> category,
-             std::optional<std::string> domain = std::nullopt) {
+    void add(Date start, std::int64_t seconds, std::optional<std::int64_t> category) {
         ActivityRecord record;
         record.appName = "App";
         record.categoryID = category;
-        record.urlDomain = std::move(domain);
         record.startTime = start;
         record.durationSeconds = seconds;
         db.insertActivity(record);
@@ -76,24 +74,16 @@ TEST_F(Summaries, MonthHasOneSummaryPerLocalDay) {
     EXPECT_EQ(db.monthSummaries(2023, 2).size(), 28u);
     EXPECT_EQ(db.monthSummaries(1900, 2).size(), 28u);
     EXPECT_EQ(db.monthSummaries(2000, 2).size(), 29u);
+    add(kMarch11Midnight, 5, 12);  // in the 10th and the 11th, as daySummary has it
+    add(kMarch11Midnight + 60, 7, 1);
     const auto march = db.monthSummaries(2024, 3);
     ASSERT_EQ(march.size(), 31u);
     EXPECT_EQ(march[10].date - march[9].date, 23 * 3600);
+    EXPECT_EQ(march[9].byCategory, (std::map<std::int64_t, std::int64_t>{{12, 5}}));
+    EXPECT_EQ(march[10], db.daySummary(kMarch11Midnight));
+    EXPECT_EQ(march[10].totalSeconds, 12);
     EXPECT_TRUE(db.monthSummaries(2024, 13).empty());
     EXPECT_TRUE(db.monthSummaries(2024, 0).empty());
-}
-
-TEST_F(Summaries, TopDomainsSumKnownDomainsWithinInclusiveBounds) {
-    add(100, 50, 1, "github.com");
-    add(200, 70, 1, "github.com");
-    add(300, 100, 1, "docs.example");
-    add(300, 999, 1, "");
-    add(300, 999, 1, std::nullopt);
-    add(301, 999, 1, "late.example");
-    add(99, 999, 1, "early.example");
-    EXPECT_EQ(db.fetchTopDomains(100, 300),
-              (std::vector<DomainTotal>{{"github.com", 120}, {"docs.example", 100}}));
-    EXPECT_EQ(db.fetchTopDomains(100, 300, 1), (std::vector<DomainTotal>{{"github.com", 120}}));
 }
 
 }  // namespace
