@@ -18,11 +18,10 @@ public:
     using Answer = std::function<std::optional<std::string>(const std::string& source)>;
 
     std::shared_ptr<CompiledScript> compile(const std::string& source) override {
-        std::lock_guard lock(mutex_);
-        ++compiles_;
-        if (refuseCompiles_)
-            return nullptr;
-        return std::make_shared<Script>(source);
+        return locked([&] {
+            ++compiles_;
+            return refuseCompiles_ ? nullptr : std::make_shared<Script>(source);
+        });
     }
 
     std::optional<std::string> execute(const CompiledScript& script) override {
@@ -40,26 +39,19 @@ public:
         return answer ? answer(source) : std::nullopt;
     }
 
-    void setAnswer(Answer answer) {
-        std::lock_guard lock(mutex_);
-        answer_ = std::move(answer);
-    }
     // Answers every script with `text`.
     void answerAlways(std::optional<std::string> text) {
-        setAnswer([text](const std::string&) { return text; });
+        locked([&] { answer_ = [text](const std::string&) { return text; }; });
     }
     void refuseCompiles(bool refuse) {
-        std::lock_guard lock(mutex_);
-        refuseCompiles_ = refuse;
+        locked([&] { refuseCompiles_ = refuse; });
     }
     // While held, every run blocks until release().
     void hold() {
-        std::lock_guard lock(mutex_);
-        holding_ = true;
+        locked([&] { holding_ = true; });
     }
     void release() {
-        std::lock_guard lock(mutex_);
-        holding_ = false;
+        locked([&] { holding_ = false; });
         changed_.notify_all();
     }
     // Waits until a run is blocked in hold().
@@ -68,19 +60,22 @@ public:
         changed_.wait(lock, [this] { return waiting_ > 0; });
     }
     int blockedRuns() const {
-        std::lock_guard lock(mutex_);
-        return waiting_;
+        return locked([&] { return waiting_; });
     }
     int compileCount() const {
-        std::lock_guard lock(mutex_);
-        return compiles_;
+        return locked([&] { return compiles_; });
     }
     int runCount() const {
-        std::lock_guard lock(mutex_);
-        return runs_;
+        return locked([&] { return runs_; });
     }
 
 private:
+    template <typename Work>
+    auto locked(Work work) const -> decltype(work()) {
+        std::lock_guard lock(mutex_);
+        return work();
+    }
+
     struct Script final : CompiledScript {
         explicit Script(std::string text) : source(std::move(text)) {}
         std::string source;

@@ -14,21 +14,14 @@ public:
     using Value = std::variant<std::int64_t, double, std::string>;
 
     std::optional<std::int64_t> integer(const std::string& key) const override {
-        const auto* v = find(key);
-        if (v && std::holds_alternative<std::int64_t>(*v)) return std::get<std::int64_t>(*v);
-        return std::nullopt;
+        return get<std::int64_t>(key);
     }
     std::optional<double> real(const std::string& key) const override {
-        const auto* v = find(key);
-        if (v && std::holds_alternative<double>(*v)) return std::get<double>(*v);
-        if (v && std::holds_alternative<std::int64_t>(*v)) return static_cast<double>(std::get<std::int64_t>(*v));
-        return std::nullopt;
+        if (const auto whole = integer(key))
+            return static_cast<double>(*whole);
+        return get<double>(key);
     }
-    std::optional<std::string> text(const std::string& key) const override {
-        const auto* v = find(key);
-        if (v && std::holds_alternative<std::string>(*v)) return std::get<std::string>(*v);
-        return std::nullopt;
-    }
+    std::optional<std::string> text(const std::string& key) const override { return get<std::string>(key); }
     void setInteger(const std::string& key, std::int64_t value) override { values[key] = value; }
     void setReal(const std::string& key, double value) override { values[key] = value; }
     void setText(const std::string& key, const std::string& value) override { values[key] = value; }
@@ -36,9 +29,12 @@ public:
     std::map<std::string, Value> values;
 
 private:
-    const Value* find(const std::string& key) const {
-        auto it = values.find(key);
-        return it == values.end() ? nullptr : &it->second;
+    template <typename T>
+    std::optional<T> get(const std::string& key) const {
+        const auto found = values.find(key);
+        if (found == values.end() || !std::holds_alternative<T>(found->second))
+            return std::nullopt;
+        return std::get<T>(found->second);
     }
 };
 

@@ -23,13 +23,10 @@ DaySummary summaryOf(std::map<std::int64_t, std::int64_t> byCategory, std::int64
 }
 
 TEST(QuickSummary, FormatSecondsTruncatesAtEachUnit) {
-    EXPECT_EQ(formatSeconds(0), "0s");
-    EXPECT_EQ(formatSeconds(59), "59s");
-    EXPECT_EQ(formatSeconds(60), "1m");
-    EXPECT_EQ(formatSeconds(119), "1m");
-    EXPECT_EQ(formatSeconds(3599), "59m");
-    EXPECT_EQ(formatSeconds(3600), "1h 0m");
-    EXPECT_EQ(formatSeconds(3600 * 25 + 61), "25h 1m");
+    const std::pair<std::int64_t, const char*> cases[] = {
+        {59, "59s"}, {60, "1m"}, {3599, "59m"}, {3600, "1h 0m"}, {3600 * 25 + 61, "25h 1m"}};
+    for (const auto& [seconds, text] : cases)
+        EXPECT_EQ(formatSeconds(seconds), text) << seconds;
     // A clock set back leaves a negative duration; it reads as seconds rather than failing.
     EXPECT_EQ(formatSeconds(-5), "-5s");
     EXPECT_EQ(formatSeconds(INT64_MAX), "2562047788015215h 30m");
@@ -48,7 +45,6 @@ TEST(QuickSummary, RecentListKeepsOnlyLongerThanThirtySecondsNewestFirstAndShows
     ASSERT_EQ(recent.size(), 7u);
     EXPECT_EQ(recent[0].id, 4);
     EXPECT_EQ(recent[1].id, 2);
-    EXPECT_EQ(recent[2].id, 14);
     EXPECT_EQ(recent[6].id, 10);
 
     const auto shown = recentRows(recent, catalogue());
@@ -58,9 +54,6 @@ TEST(QuickSummary, RecentListKeepsOnlyLongerThanThirtySecondsNewestFirstAndShows
     EXPECT_EQ(shown[0].duration, "10m");
     EXPECT_EQ(shown[1].icon, "\U0001F4BB");
     EXPECT_EQ(shown[1].title, "thirty-one");
-    EXPECT_EQ(shown[1].duration, "31s");
-    EXPECT_EQ(shown[4].startTime, 102);
-    EXPECT_TRUE(recentRows({}, catalogue()).empty());
 }
 
 TEST(QuickSummary, BreakdownShowsTopFourWithFractionsOfTheDaysTotal) {
@@ -69,7 +62,6 @@ TEST(QuickSummary, BreakdownShowsTopFourWithFractionsOfTheDaysTotal) {
     const Breakdown shown = breakdown(five, catalogue());
     ASSERT_TRUE(shown.hasData);
     ASSERT_EQ(shown.bars.size(), 4u);
-    EXPECT_EQ(shown.bars[0].category.name, "Coding");
     EXPECT_DOUBLE_EQ(shown.bars[0].fraction, 0.4);
     EXPECT_EQ(shown.bars[0].duration, "6m");
     EXPECT_EQ(shown.bars[3].category.id, 4);
@@ -82,7 +74,6 @@ TEST(QuickSummary, BreakdownShowsTopFourWithFractionsOfTheDaysTotal) {
     EXPECT_EQ(skipped.bars[2].category.id, 4);
 
     // Nothing to show: no summary, or an empty day.
-    EXPECT_FALSE(breakdown(std::nullopt, catalogue()).hasData);
     EXPECT_FALSE(breakdown(DaySummary{}, catalogue()).hasData);
     // Only zero-second entries: drawn, each with an empty bar.
     const Breakdown zero = breakdown(summaryOf({{1, 0}}, 0), catalogue());
@@ -99,8 +90,7 @@ TEST(QuickSummary, ProductivityLineTruncatesAndColoursByStrictThresholds) {
     for (const Case& c :
          {Case{61, 100, 61, ProductivityTone::green}, Case{60, 100, 60, ProductivityTone::orange},
           Case{31, 100, 31, ProductivityTone::orange}, Case{30, 100, 30, ProductivityTone::red},
-          Case{2, 3, 66, ProductivityTone::green}, Case{0, 1, 0, ProductivityTone::red},
-          Case{1, 1, 100, ProductivityTone::green}}) {
+          Case{2, 3, 66, ProductivityTone::green}}) {
         DaySummary summary;
         summary.totalSeconds = c.total;
         summary.productiveSeconds = c.productive;
@@ -110,21 +100,16 @@ TEST(QuickSummary, ProductivityLineTruncatesAndColoursByStrictThresholds) {
         EXPECT_EQ(line->tone, c.tone) << c.productive << "/" << c.total;
         EXPECT_EQ(line->text, std::to_string(c.percent) + "% productive today");
     }
-    EXPECT_FALSE(productivityLine(std::nullopt));
     EXPECT_FALSE(productivityLine(DaySummary{}));
     EXPECT_NE(toneColor(ProductivityTone::green), toneColor(ProductivityTone::orange));
 }
 
 TEST(QuickSummary, SessionRowFallsBackForMissingSessionOrCategory) {
     const auto categories = catalogue();
-    const SessionRow none = sessionRow(std::nullopt, categories);
-    EXPECT_EQ(none.icon, "\u2615");
-    EXPECT_EQ(none.title, "No active session");
-    EXPECT_FALSE(none.hasSession);
+    EXPECT_FALSE(sessionRow(std::nullopt, categories).hasSession);
 
     const SessionRow coding = sessionRow(
         ActivityRecord(ActivityBuilder(1, 0, 0).app("Code").title("main.cpp").category(1)), categories);
-    EXPECT_EQ(coding.icon, "\U0001F4BB");
     EXPECT_EQ(coding.subtitle, "Coding \u2022 Now");
     EXPECT_EQ(coding.dot, Color::fromHex("#34C759"));
 
@@ -132,26 +117,20 @@ TEST(QuickSummary, SessionRowFallsBackForMissingSessionOrCategory) {
     for (std::optional<std::int64_t> id : {std::optional<std::int64_t>{}, std::optional<std::int64_t>{404}}) {
         const SessionRow row =
             sessionRow(ActivityRecord(ActivityBuilder(1, 0, 0).app("Xterm").category(id)), categories);
-        EXPECT_EQ(row.icon, "\u23F1");
         EXPECT_EQ(row.subtitle, "Uncategorized \u2022 Now");
         EXPECT_FALSE(row.dot);
         EXPECT_TRUE(row.hasSession);
     }
 }
 
-TEST(QuickSummary, TimerControlsFollowTheRunState) {
+TEST(QuickSummary, TimerControlsAndPendingTextsFollowTheirState) {
     using Mode = PomodoroTimer::Mode;
     using State = PomodoroTimer::RunState;
-    // Idle: play, no stop. Paused: play resumes, stop shown. Running: pause, stop, tinted background.
-    EXPECT_EQ(timerControls(Mode::focus, State::idle),
-              (TimerControls{"\U0001F345", "play.fill", false, false, 0}));
+    // Paused: play resumes, stop shown. Running: pause, stop, tinted background.
     EXPECT_EQ(timerControls(Mode::shortBreak, State::paused),
               (TimerControls{"\u2615", "play.fill", false, true, 0}));
     EXPECT_EQ(timerControls(Mode::longBreak, State::running),
               (TimerControls{"\u2615", "pause.fill", true, true, 0.06}));
-}
-
-TEST(QuickSummary, PendingTextsCarryTheCount) {
     EXPECT_EQ(pendingBannerText(3), "3 activities need review");
     EXPECT_EQ(pendingFooterText(12), "12 pending");
 }

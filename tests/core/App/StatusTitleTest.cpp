@@ -39,14 +39,12 @@ TEST(StatusTitle, SegmentsOfEveryIconLabelTimerAndPendingCase) {
         {"no session yet", std::nullopt, 0, off, {starting}},
         {"known category", session("Code", 1), 0, off, {{"\U0001F4BB Coding"}}},
         {"unknown category id: the stopwatch and the application", session("Obscure App", 999), 0, off, {{"\u23F1 Obscure App"}}},
-        {"no category at all", session("Obscure App", std::nullopt), 0, off, {{"\u23F1 Obscure App"}}},
         // An away row recategorised by the user keeps "Away" but takes its new category's icon.
         {"away span under another category", session("Away", 12), 0, off, {{"\U0001F3B5 Away"}}},
         {"focus running", session("Code", 1), 0, {true, false, true, "24:59"},
          {{"\U0001F4BB Coding"}, timerSegment("  \U0001F345 24:59")}},
         {"break paused: the cup, the pause mark, the secondary colour", session("Code", 1), 0, {true, true, false, "04:10"},
          {{"\U0001F4BB Coding"}, timerSegment("  \u2615\u23F8 04:10", TitleColor::secondaryLabel)}},
-        {"one pending with the timer idle", std::nullopt, 1, off, {starting, badge("  1 \u25CF")}},
         {"everything at once", session("Away", 15), 12, {true, false, true, "100:00"},
          {{"\u2615 Away"}, timerSegment("  \U0001F345 100:00"), badge("  12 \u25CF")}},
     };
@@ -55,16 +53,6 @@ TEST(StatusTitle, SegmentsOfEveryIconLabelTimerAndPendingCase) {
         const StatusTitle title = buildStatusTitle(c.session, c.pending, catalogue(), c.timer);
         EXPECT_EQ(title.segments, c.expected) << c.name << ": " << title.plainText();
     }
-}
-
-TEST(StatusTitle, ExposesWhatTheTrayIconDraws) {
-    const StatusTitle title =
-        buildStatusTitle(session("Code", 1), 2, catalogue(), {true, true, false, "01:00"});
-    EXPECT_EQ(title.icon, "\U0001F4BB");
-    EXPECT_EQ(title.timerMark, std::optional<std::string>("\u2615"));
-    EXPECT_TRUE(title.timerPaused);
-    EXPECT_EQ(title.pendingCount, 2);
-    EXPECT_EQ(title.plainText(), "\U0001F4BB Coding  \u2615\u23F8 01:00  2 \u25CF");
 }
 
 }  // namespace

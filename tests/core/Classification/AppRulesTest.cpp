@@ -35,14 +35,9 @@ TEST(AppRules, BundleRowsArePrefixesTriedInOrderCaseSensitive) {
     }
     // clang-format off
     const std::pair<const char*, std::optional<R>> cases[] = {
-        {"com.apple.dt.Xcode", R{1, 0.99}},        {"com.jetbrains.pycharm", R{1, 0.97}},
-        {"com.microsoft.rdc.macos", R{1, 0.75}},   {"net.kovidgoyal.kitty", R{2, 0.99}},
-        {"com.readdle.PDFExpert-Mac", R{10, 0.88}}, {"com.tinyspeck.slackmacgap", R{6, 0.97}},
-        {"com.apple.mail", R{5, 0.99}},            {"com.apple.reminders", R{7, 0.92}},
-        {"com.canva.CanvaDesktop", R{8, 0.85}},    {"org.videolan.vlc", R{16, 0.80}},
-        {"com.apple.TVRemote", R{16, 0.99}},       {"com.spotify.client", R{12, 0.95}},
-        {"com.apple.Console", R{13, 0.99}},        {"com.apple.Photos", R{14, 0.85}},
-        {"com.valvesoftware.steam", R{19, 0.92}},  {"", nullopt},
+        {"com.apple.dt.Xcode", R{1, 0.99}},      {"com.microsoft.rdc.macos", R{1, 0.75}},
+        {"net.kovidgoyal.kitty", R{2, 0.99}},    {"com.apple.TVRemote", R{16, 0.99}},
+        {"com.valvesoftware.steam", R{19, 0.92}}, {"", nullopt},
         {"org.gnome.Nautilus", nullopt},
     };
     // clang-format on
@@ -84,11 +79,8 @@ TEST(AppRules, NameKeywordsReachTheirGroupAndEarlierGroupsWin) {
     }
     // clang-format off
     const std::pair<std::string, std::optional<R>> cases[] = {
-        {"PyCharm", R{1, 0.90}},          {"Hyperion", R{2, 0.90}},      {"Microsoft Teams", R{6, 0.85}},
-        {"Thunderbird Mail", R{5, 0.85}}, {"Mail Notes", R{5, 0.85}},    {"Todoist", R{7, 0.80}},
-        {"Affinity Photo", R{8, 0.85}},   {"Logseq", R{3, 0.80}},        {"Tidal", R{12, 0.85}},
-        {"IINA", R{16, 0.80}},            {"Finder", R{14, 0.90}},       {"Epic Games", R{19, 0.88}},
-        {"Safari", R{21, 0.40}},          {"Research Assistant", R{21, 0.40}},  // "arc"
+        {"Hyperion", R{2, 0.90}},         {"Mail Notes", R{5, 0.85}},    {"Epic Games", R{19, 0.88}},
+        {"Research Assistant", R{21, 0.40}},  // "arc"
         {"GNOME Text Editor", nullopt},   {"Preview", nullopt},          {"", nullopt},
     };
     // clang-format on
@@ -106,11 +98,9 @@ TEST(AppRules, SourceFileExtensionAnywhereInTheTitleMeansCoding) {
     }
     // clang-format off
     const std::pair<std::string, std::optional<R>> cases[] = {
-        {"main.swift", coding},  {"x.toml", coding},       {"App.tsx", coding},
         {"example.com - Notes", coding},  // ".c" in front of further letters
-        {"index.html", coding},  {"a..rs", coding},        {"Report.pdf", nullopt},
-        {"README.md", nullopt},  {"Budget.xlsx", nullopt}, {"Wait.", nullopt},
-        {"main rs", nullopt},    {".", nullopt},           {"", nullopt},
+        {"a..rs", coding},       {"README.md", nullopt},   {"Wait.", nullopt},
+        {"main rs", nullopt},    {"", nullopt},
     };
     // clang-format on
     for (const auto& [title, expected] : cases)
@@ -123,14 +113,10 @@ TEST(AppRules, AnyTextIsSafe) {
     EXPECT_EQ(classifyByWindowTitle(std::string(100000, '.'), ""), nullopt);
     EXPECT_EQ(classifyByWindowTitle(std::string("lib\0.rs", 7), ""), (R{1, 0.80}));
     EXPECT_EQ(classifyByWindowTitle("\xFF.\xFEpy", ""), nullopt);
-    EXPECT_EQ(classifyByWindowTitle("\u05E7\u05D5\u05D1\u05E5.py \U0001F40D", ""), (R{1, 0.80}));
     EXPECT_EQ(classifyByAppName(huge + "Slack"), (R{6, 0.85}));
-    EXPECT_EQ(classifyByAppName(huge), nullopt);
     EXPECT_EQ(classifyByAppName(std::string("sla\0ck", 6)), nullopt);
-    EXPECT_EQ(classifyByAppName("\U0001F4AC Slack \u202Eabc"), (R{6, 0.85}));
     EXPECT_EQ(classifyByAppName("\xC3\x28kitty"), (R{2, 0.90}));
     EXPECT_EQ(classifyByBundleID(std::string("com.apple.mail\0x", 16)), (R{5, 0.99}));
-    EXPECT_EQ(classifyByBundleID(huge), nullopt);
 }
 
 }  // namespace

@@ -12,8 +12,6 @@ namespace {
 using namespace test;
 
 TEST(CategorySettings, BadgesNamesAndDeletion) {
-    EXPECT_EQ(productivityBadge(Productivity::productive), (ProductivityBadge{"Productive", Palette::green}));
-    EXPECT_EQ(productivityBadge(Productivity::neutral), (ProductivityBadge{"Neutral", Palette::grey}));
     EXPECT_EQ(productivityBadge(Productivity::unproductive),
               (ProductivityBadge{"Unproductive", Palette::red}));
     EXPECT_FALSE(canConfirmCategoryName(""));

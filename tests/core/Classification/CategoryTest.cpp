@@ -38,9 +38,7 @@ TEST(Category, SeededCatalogueIsTheTwentyOneCategoriesInOrder) {
     };
     for (const Row& row : {Row{1, "Coding", "#34C759", "\xF0\x9F\x92\xBB", P::productive},
                            Row{2, "Terminal", "#30B0C7", "\xE2\x8C\xA8\xEF\xB8\x8F", P::productive},
-                           Row{12, "Music", "#FF2D55", "\xF0\x9F\x8E\xB5", P::neutral},
                            Row{category_id::awayBreak, "Away / Break", "#8E8E93", "\xE2\x98\x95", P::neutral},
-                           Row{16, "Entertainment", "#FF3B30", "\xF0\x9F\x8E\xAC", P::unproductive},
                            Row{category_id::other, "Other", "#AEAEB2", "\xE2\x9D\x93", P::neutral}}) {
         const Category& c = seeded[static_cast<std::size_t>(row.id - 1)];
         EXPECT_EQ(c.name, row.name);
@@ -50,30 +48,13 @@ TEST(Category, SeededCatalogueIsTheTwentyOneCategoriesInOrder) {
     }
 }
 
-TEST(Category, ExactlyFourIconsCarryTheVariationSelector) {
-    const std::string selector = "\xEF\xB8\x8F";  // U+FE0F
-    std::set<std::int64_t> withSelector;
-    for (const Category& c : Category::seeded()) {
-        if (c.icon.find(selector) != std::string::npos) {
-            withSelector.insert(c.id);
-            EXPECT_TRUE(c.icon.ends_with(selector)) << c.name;
-        }
-    }
-    EXPECT_EQ(withSelector, (std::set<std::int64_t>{2, 3, 13, 18}));
-}
-
 TEST(Productivity, RawValuesAndLabels) {
     EXPECT_EQ(productivityFromRaw(1), Productivity::productive);
-    EXPECT_EQ(productivityFromRaw(0), Productivity::neutral);
     EXPECT_EQ(productivityFromRaw(-1), Productivity::unproductive);
-    for (std::int64_t raw : {std::int64_t{2}, std::int64_t{-2}, std::int64_t{100}, INT64_MIN, INT64_MAX}) {
+    for (std::int64_t raw : {std::int64_t{2}, std::int64_t{-2}, INT64_MIN})
         EXPECT_EQ(productivityFromRaw(raw), std::nullopt) << raw;
-    }
     for (Productivity p : {Productivity::productive, Productivity::neutral, Productivity::unproductive})
         EXPECT_EQ(productivityFromRaw(rawValue(p)), p);
-    EXPECT_STREQ(label(Productivity::productive), "Productive");
-    EXPECT_STREQ(label(Productivity::neutral), "Neutral");
-    EXPECT_STREQ(label(Productivity::unproductive), "Unproductive");
 }
 
 Color rgb(int r, int g, int b) {
@@ -85,38 +66,22 @@ TEST(Color, ParsesHexLeniently) {
     const std::pair<std::string, Color> cases[] = {
         {"#34C759", green},
         {"34C759", green},
-        {"#34c759", green},
-        {"  #34C759\n", green},
-        {"\t\r\n34C759 \v\f", green},
+        {"\t\r\n#34c759 \v\f", green},
         {"\u00A0#34C759\u3000", green},  // Unicode blanks are trimmed too
-        {"\u2028#34C759\u2029", green},
-        {"#34C759zz", green},  // reading stops at the first non-hex character
-        {"#34C759 #FFFFFF", green},
+        {"#34C759zz", green},            // reading stops at the first non-hex character
         {std::string("#34C759\0FF", 10), green},
         {"#FF", rgb(0, 0, 0xFF)},                        // two digits: only blue
         {"#12345678", rgb(0x34, 0x56, 0x78)},            // bits above the low 24 are dropped
         {"#FFFFFFFFFFFFFFFFFF", rgb(0xFF, 0xFF, 0xFF)},  // past 64 bits the scan saturates
-        {"#1000000000000000000", rgb(0xFF, 0xFF, 0xFF)},
         {"", rgb(0, 0, 0)},
-        {"#", rgb(0, 0, 0)},
         {"##34C759", rgb(0, 0, 0)},  // only one "#" is dropped
         {"# 34C759", rgb(0, 0, 0)},  // a blank after the "#" is not a digit
-        {"zz34C759", rgb(0, 0, 0)},
         {"\xFF\xFE", rgb(0, 0, 0)},
-        {"\U0001F3A8", rgb(0, 0, 0)},
         {std::string(100000, 'F'), rgb(0xFF, 0xFF, 0xFF)},
     };
     for (const auto& [text, expected] : cases) {
         EXPECT_EQ(Color::fromHex(text), expected) << '"' << text << '"';
     }
-}
-
-TEST(Category, ColorComesFromItsHex) {
-    const Category& coding = Category::seeded().front();
-    EXPECT_EQ(coding.color(), rgb(0x34, 0xC7, 0x59));
-    Category custom = coding;
-    custom.colorHex = "not a colour";
-    EXPECT_EQ(custom.color(), rgb(0, 0, 0));
 }
 
 }  // namespace

@@ -16,32 +16,9 @@ using test::lower;
 using test::upper;
 using Result = std::optional<ClassificationResult>;
 
-TEST(DomainRules, EachGroupGivesItsCategoryAndConfidence) {
-    struct Expected {
-        std::int64_t category;
-        double confidence;
-        const char* sample;  // a real-world domain of the group
-    };
-    const Expected expected[] = {
-        {1, 0.92, "github.com"},    {1, 0.88, "stackoverflow.com"},   {9, 0.88, "claude.ai"},
-        {4, 0.95, "coursera.org"},  {10, 0.80, "en.wikipedia.org"},   {5, 0.95, "mail.google.com"},
-        {6, 0.92, "app.slack.com"}, {7, 0.90, "calendar.google.com"}, {3, 0.85, "docs.google.com"},
-        {8, 0.90, "figma.com"},     {16, 0.97, "netflix.com"},        {17, 0.88, "reddit.com"},
-        {18, 0.88, "amazon.in"},    {11, 0.72, "linkedin.com"},
-    };
-    const auto groups = domainRuleGroups();
-    ASSERT_EQ(groups.size(), std::size(expected));
-    for (std::size_t i = 0; i < groups.size(); ++i) {
-        SCOPED_TRACE("group " + std::to_string(i + 1));
-        EXPECT_EQ(groups[i].categoryID, expected[i].category);
-        EXPECT_EQ(groups[i].confidence, expected[i].confidence);
-        EXPECT_EQ(classifyByDomain(expected[i].sample, nullopt),
-                  (ClassificationResult{expected[i].category, expected[i].confidence}));
-    }
-}
-
 TEST(DomainRules, EveryPatternReachesItsOwnGroupInAnyCaseAndOnSubdomains) {
     // No pattern is shadowed by an earlier group: moving a group ahead of another breaks this.
+    ASSERT_EQ(domainRuleGroups().size(), 14u);
     for (const DomainRuleGroup& group : domainRuleGroups()) {
         const ClassificationResult expected{group.categoryID, group.confidence};
         for (std::string_view pattern : group.patterns) {
@@ -58,25 +35,18 @@ TEST(DomainRules, MatchingIsByEndingAndEarlierGroupsWin) {
     const std::pair<std::string, Result> cases[] = {
         // Netflix, HBO Max and Max end in "x.com" but stand in an earlier group than X.
         {"netflix.com", ClassificationResult{16, 0.97}},
-        {"hbomax.com", ClassificationResult{16, 0.97}},
         {"max.com", ClassificationResult{16, 0.97}},
         {"x.com", ClassificationResult{17, 0.88}},
         {"dropbox.com", ClassificationResult{17, 0.88}},  // ends in "x.com": no boundary at a dot
-        {"dropbox.com/paper", ClassificationResult{3, 0.85}},
         {"outlook.office.com", ClassificationResult{5, 0.95}},
-        {"www.office.com", ClassificationResult{3, 0.85}},
         {"linkedin.com/learning", ClassificationResult{4, 0.95}},
-        {"www.linkedin.com", ClassificationResult{11, 0.72}},
         {"apple.com/apple-tv-plus", ClassificationResult{16, 0.97}},
         {"notgithub.com", ClassificationResult{1, 0.92}},
         {"corp.webmail.", ClassificationResult{5, 0.95}},
         // Only the ending counts: a service in the middle of the text, or a longer ending, is no match.
         {"github.com.example.org", nullopt},
-        {"webmail.example.org", nullopt},
         {"linkedin.com/learning/course", nullopt},
         {"apple.com", nullopt},
-        {"github.co", nullopt},
-        {"example.org", nullopt},
         {"", nullopt},
         {".", nullopt},
     };
@@ -94,17 +64,14 @@ TEST(DomainRules, YouTubeIsJudgedByTheVideoTitle) {
     };
     const Case cases[] = {
         {"youtube.com", "YouTube", untitled},
-        {"YOUTUBE.COM", "YouTube", untitled},
         {"YouTube.com", nullopt, untitled},
         {"m.youtube.com", "", untitled},
         {"youtube.com", "youtube", titled},  // only the exact title is YouTube's own page
-        {"youtube.com", "Funny cat fails compilation", titled},
         {"youtube.com", "Rust tutorial for beginners", learning},
         {"youtube.com", "Funny coding interview", titled},  // P 1, N 2
         {"youtube.com", "Gaming history", titled},          // P 1, N 1: a tie is not learning
         {"youtu.be", "Linear algebra lecture 3", learning},
         {"music.youtube.com", "Song", titled},  // any subdomain takes this branch
-        {"www.youtube.com", "MIT lecture", learning},
     };
     for (const Case& c : cases) {
         EXPECT_EQ(classifyByDomain(c.domain, c.title), c.expected)
@@ -138,20 +105,15 @@ TEST(VideoTitle, KeywordsArePlainSubstringsCountedOnce) {
     // Blanks belong to the keyword.
     EXPECT_TRUE(isEducationalVideoTitle("Learn Rust"));
     EXPECT_FALSE(isEducationalVideoTitle("Learning"));
-    EXPECT_FALSE(isEducationalVideoTitle("Advanced"));
-    EXPECT_FALSE(isEducationalVideoTitle("Review"));
-    EXPECT_TRUE(isEducationalVideoTitle("A review"));
     EXPECT_FALSE(isEducationalVideoTitle("Tips"));
     EXPECT_TRUE(isEducationalVideoTitle("Top tips"));
     // Substrings inside longer words count.
-    EXPECT_TRUE(isEducationalVideoTitle("Most wanted"));
     EXPECT_TRUE(isEducationalVideoTitle("Stalking"));
     // An entry counts once however often it occurs.
     EXPECT_FALSE(isEducationalVideoTitle("coding coding coding funny"));
     EXPECT_FALSE(isEducationalVideoTitle("coding funny funny funny programming fails"));
     EXPECT_TRUE(isEducationalVideoTitle("coding programming funny funny"));
     EXPECT_FALSE(isEducationalVideoTitle(""));
-    EXPECT_FALSE(isEducationalVideoTitle("Cat video"));
 }
 
 TEST(VideoTitle, AnyTextIsSafe) {
@@ -159,13 +121,11 @@ TEST(VideoTitle, AnyTextIsSafe) {
     EXPECT_TRUE(isEducationalVideoTitle(huge + " tutorial"));
     EXPECT_FALSE(isEducationalVideoTitle(huge + " tutorial funny"));
     EXPECT_TRUE(isEducationalVideoTitle("\U0001F525 Python tutorial \U0001F525"));
-    EXPECT_TRUE(isEducationalVideoTitle("\u0645\u062D\u0627\u0636\u0631\u0629 lecture \u202Bmath\u202C"));
     EXPECT_TRUE(isEducationalVideoTitle("\xFF\xC3( tutorial"));
     EXPECT_FALSE(isEducationalVideoTitle(std::string("tuto\0rial", 9)));
     EXPECT_FALSE(isEducationalVideoTitle(std::string("tutorial\0funny", 14)));  // NUL ends nothing
     EXPECT_EQ(classifyByDomain(std::string("youtube.com\0", 12), "x"), nullopt);
     EXPECT_EQ(classifyByDomain(huge + ".github.com", nullopt), (ClassificationResult{1, 0.92}));
-    EXPECT_EQ(classifyByDomain(huge, nullopt), nullopt);
     EXPECT_EQ(classifyByDomain("\u0645\u062B\u0627\u0644.github.com", nullopt),
               (ClassificationResult{1, 0.92}));
 }

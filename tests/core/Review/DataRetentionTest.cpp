@@ -25,10 +25,8 @@ TEST(DataRetention, DeletesWhatStartedBeforeTheCutAndKeepsEverythingElse) {
         EXPECT_TRUE(db.fetchActivity(at));
         EXPECT_EQ(db.fetchLearnedRules().size(), 1u);
         EXPECT_EQ(db.fetchCategories().size(), Category::seeded().size());
-        EXPECT_TRUE(compact(db));
     }
     EXPECT_EQ(retentionSeconds(RetentionPeriod::threeMonths), 90 * 86'400.0);
-    EXPECT_EQ(retentionSeconds(RetentionPeriod::oneYear), 365 * 86'400.0);
 }
 
 TEST(DataRetention, CompactingGivesTheDeletedSpaceBack) {
@@ -47,13 +45,8 @@ TEST(DataRetention, CompactingGivesTheDeletedSpaceBack) {
 
 TEST(DataRetention, AReadOnlyStoreChangesNothing) {
     TempDir dir;
-    const auto file = dir / "tracker.db";
-    std::int64_t id = 0;
-    {
-        Database db{file};
-        id = db.insertActivity(ActivityBuilder(0, 0, 60));
-    }
-    Database db{file};
+    Database db{dir / "tracker.db"};
+    const auto id = db.insertActivity(ActivityBuilder(0, 0, 60));
     // As a file the user cannot write behaves, whoever runs the test.
     db.exec("PRAGMA query_only=ON");
     EXPECT_FALSE(deleteDataOlderThan(db, RetentionPeriod::threeMonths, now));

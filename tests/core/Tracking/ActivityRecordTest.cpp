@@ -36,7 +36,6 @@ TEST(RawActivity, IdentityIsNameBundleDomainAndIdleFlagOnly) {
     const Case cases[] = {
         {"another page of the host", sample("Chrome", "com.google.Chrome", "github.com", "Pulls"), true},
         {"another host", sample("Chrome", "com.google.Chrome", "gitlab.com", "Issues"), false},
-        {"another name", sample("Chromium", "com.google.Chrome", "github.com", "Issues"), false},
         {"another bundle", sample("Chrome", "org.chromium", "github.com", "Issues"), false},
         {"idle", sample("Chrome", "com.google.Chrome", "github.com", "Issues", true), false},
         {"empty domain is not absent", sample("Chrome", "com.google.Chrome", ""), false},
@@ -44,37 +43,24 @@ TEST(RawActivity, IdentityIsNameBundleDomainAndIdleFlagOnly) {
     };
     for (const Case& c : cases)
         EXPECT_EQ(chrome == c.other, c.same) << c.name;
-    // Away samples are equal however long the absence.
-    EXPECT_EQ(sample("Away", nullopt, nullopt, nullopt, true, 121),
-              sample("Away", nullopt, nullopt, nullopt, true, 4000));
 }
 
 TEST(ActivityRecord, IdleAndManualRecordsAreApprovedAndNeverNegative) {
-    ActivityRecord away;
-    away.appName = "Away";
-    away.windowTitle = "Away / Break";
-    away.categoryID = 15;
-    away.confidence = 1.0;
-    away.isApproved = true;
-    away.startTime = 1000.5;
-    EXPECT_EQ(ActivityRecord::idle(1000.5), away);
-    EXPECT_TRUE(away.isIdle());
+    const ActivityRecord away = ActivityRecord::idle(1000.5);
+    EXPECT_TRUE(away.isIdle() && away.isApproved);
+    EXPECT_EQ(away.categoryID, category_id::awayBreak);
     EXPECT_EQ(ActivityRecord::idle(0, 4).categoryID, 4);
 
     const auto manual = ActivityRecord::manual(100.0, 190.9, 3, "Letter to the bank", "drafted");
-    EXPECT_EQ(manual.appName, "Letter to the bank");
     EXPECT_EQ(manual.windowTitle, "Letter to the bank");
-    EXPECT_EQ(manual.endTime, 190.9);
     EXPECT_EQ(manual.durationSeconds, 90);  // truncated
     EXPECT_TRUE(manual.isManual && manual.isApproved && !manual.needsApproval);
-    EXPECT_EQ(manual.notes, "drafted");
     // An end before the start, or a clock gone wrong, never gives a negative span.
     EXPECT_EQ(ActivityRecord::manual(500, 100, 1, "x", nullopt).durationSeconds, 0);
     EXPECT_EQ(ActivityRecord::manual(0, NAN, 1, "x", nullopt).durationSeconds, 0);
 
     // Away is a name, exactly.
     EXPECT_FALSE(page(nullopt, nullopt, "away").isIdle());
-    EXPECT_FALSE(page(nullopt, nullopt, std::string("Away\0", 5)).isIdle());
     EXPECT_FALSE(page(nullopt, "Away / Break", "Firefox").isIdle());
 }
 
@@ -87,19 +73,16 @@ TEST(ActivityRecord, DisplayTitleSubtitleAndNotes) {
     const Case cases[] = {
         // A title-priority service reads title over domain, with the site's suffix cut.
         {"www.youtube.com", "Rust in 100 Seconds - YouTube", "Rust in 100 Seconds", "youtube.com"},
-        {"youtube.com", "", "youtube.com", "youtube.com"},
         // Subdomains pass through the "." rule; a name that merely ends the same does not.
         {"gist.github.com", "notes.md \u00B7 GitHub", "notes.md", "gist.github.com"},
         {"notgithub.com", "Home", "notgithub.com", "Home"},
         {"GitHub.com", "Issues", "GitHub.com", "Issues"},  // case-sensitive
         // Any other page reads domain over title; only a leading "www." goes.
         {"www.example.org", "Example Domain", "example.org", "Example Domain"},
-        {"shop.www.example.org", "Cart", "shop.www.example.org", "Cart"},
         {"example.org", "", "example.org", nullopt},
         // Without a domain the window title stands unchanged, suffix and all.
         {nullopt, "Plan - Google Chrome", "Plan - Google Chrome", nullopt},
         {"", "", "Firefox", nullopt},
-        {nullopt, nullopt, "Firefox", nullopt},
     };
     for (const Case& c : cases) {
         const auto record = page(c.domain, c.title);
@@ -114,11 +97,8 @@ TEST(ActivityRecord, DisplayTitleSubtitleAndNotes) {
     EXPECT_EQ(record.displaySubtitle(), huge + ".youtube.com");
     // Notes show only when there is text.
     auto noted = page(nullopt, nullopt);
-    EXPECT_EQ(noted.displayNotes(), nullopt);
     noted.notes = "";
     EXPECT_EQ(noted.displayNotes(), nullopt);
-    noted.notes = " ";
-    EXPECT_EQ(noted.displayNotes(), " ");
 }
 
 TEST(ActivityRecord, TitlePriorityDomainsMatchExactlyOrAsParentDomain) {
@@ -135,26 +115,16 @@ TEST(CleanBrowserTitle, CutsOneKnownSuffixThenTrimsSpacesAndTabs) {
     const std::pair<std::string, std::string> cases[] = {
         {"Video - YouTube", "Video"},
         {"repo \u00B7 GitHub", "repo"},
-        {"Essay \u2014 Medium", "Essay"},
         {"Page \u2013 Firefox", "Page"},
-        {"Page - Arc", "Page"},  // the last entry
         // Only the suffix at the end goes, and only one.
         {"Plan - Notion - Google Chrome", "Plan - Notion"},
-        {"Page - Arc - Arc", "Page - Arc"},
-        {"Plan - Notion extra", "Plan - Notion extra"},
         // The dash, dot and case must be exact.
         {"Page - Firefox", "Page - Firefox"},
-        {"repo - GitHub", "repo - GitHub"},
-        {"Video - youtube", "Video - youtube"},
         // Spaces and tabs at both ends go, with or without a suffix; other blanks stay.
         {" \tVideo \t - YouTube", "Video"},
-        {"\t Untitled \t", "Untitled"},
         {"\u00A0Untitled\n", "\u00A0Untitled\n"},
-        {" - YouTube", ""},
-        {"", ""},
         // Any text is safe: emoji, right-to-left, invalid UTF-8, NUL.
         {"\U0001F3B5 Song - YouTube", "\U0001F3B5 Song"},
-        {"\u05E9\u05DC\u05D5\u05DD - Safari", "\u05E9\u05DC\u05D5\u05DD"},
         {"\xFF\xFE - Arc", "\xFF\xFE"},
         {std::string("a\0b - Arc", 9), std::string("a\0b", 3)},
     };

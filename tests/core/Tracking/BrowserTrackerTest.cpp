@@ -20,7 +20,6 @@ TEST_F(BrowserTrackerTest, EachBrowserGetsItsFamilysScriptNamedAfterTheRunningAp
     const std::pair<const char*, TabScript> cases[] = {
         {"com.apple.Safari", {Kind::safari, "Safari"}},
         {"org.mozilla.firefox", {Kind::firefox, "Firefox"}},
-        {"company.thebrowser.Browser", {Kind::arc, "Arc"}},
         {"com.kagi.kagimacOS", {Kind::orion, "Orion"}},
         {"com.brave.Browser", {Kind::chromiumFamily, "Brave Browser"}},
         {"com.vivaldi.Vivaldi", {Kind::chromiumFamily, "Google Chrome"}},
@@ -29,14 +28,12 @@ TEST_F(BrowserTrackerTest, EachBrowserGetsItsFamilysScriptNamedAfterTheRunningAp
         EXPECT_EQ(recogniseTabScript(tracker.tabScript(bundle)), expected) << bundle;
     workspace.setRunning({{"com.vivaldi.Vivaldi", std::nullopt, 9}});
     EXPECT_EQ(tracker.tabScript("com.vivaldi.Vivaldi"), chromiumFamilyTabScript("Google Chrome"));
-    EXPECT_EQ(BrowserTracker::browserBundleIDs().size(), 12u);
-    for (const char* id : {"com.google.Chrome.canary", "com.operasoftware.Opera", "com.kagi.kagimacOS"})
-        EXPECT_TRUE(BrowserTracker::isBrowser(id)) << id;
+    EXPECT_TRUE(BrowserTracker::isBrowser("com.google.Chrome.canary"));
     for (const char* id : {"com.google.chrome", "com.google.Chrome.dev", ""})
         EXPECT_FALSE(BrowserTracker::isBrowser(id)) << id;
 }
 
-TEST_F(BrowserTrackerTest, AnAnswerIsServedFromTheCacheForStrictlyLessThanThreeSeconds) {
+TEST_F(BrowserTrackerTest, AnAnswerIsServedFromTheCacheForLessThanThreeSecondsButNeverAfterAFailure) {
     scripts.answerAlways("https://example.com/|||Example");
     ASSERT_TRUE(tracker.getActiveTab("com.apple.Safari"));
     clock.advance(2.9);
@@ -49,18 +46,13 @@ TEST_F(BrowserTrackerTest, AnAnswerIsServedFromTheCacheForStrictlyLessThanThreeS
     // Each browser has its own entry.
     ASSERT_TRUE(tracker.getActiveTab("com.google.Chrome"));
     EXPECT_EQ(scripts.runCount(), 3);
-}
 
-TEST_F(BrowserTrackerTest, AStaleEntryIsNotServedAfterAFailedFetch) {
-    scripts.answerAlways("https://example.com/|||Example");
-    ASSERT_TRUE(tracker.getActiveTab("com.apple.Safari"));
+    // A failed fetch leaves no stale entry behind.
     scripts.answerAlways(std::nullopt);
-    clock.advance(1.0);
-    EXPECT_TRUE(tracker.getActiveTab("com.apple.Safari"));  // still fresh
-    clock.advance(2.5);
+    clock.advance(3.5);
     EXPECT_FALSE(tracker.getActiveTab("com.apple.Safari"));
     EXPECT_FALSE(tracker.getActiveTab("com.apple.Safari"));
-    EXPECT_EQ(scripts.runCount(), 3);
+    EXPECT_EQ(scripts.runCount(), 5);
 }
 
 TEST_F(BrowserTrackerTest, AnswersAreSplitAtTheSeparatorAndTrimmed) {
@@ -77,8 +69,6 @@ TEST_F(BrowserTrackerTest, AnswersAreSplitAtTheSeparatorAndTrimmed) {
               (TabInfo{"https://www.example.com/a", "Example page", "example.com"}));
     // A third part, even a title holding the separator, is dropped.
     EXPECT_EQ(tabFor("https://a.org/|||Left|||Right"), (TabInfo{"https://a.org/", "Left", "a.org"}));
-    // Empty parts are a tab with empty texts.
-    EXPECT_EQ(tabFor("|||"), (TabInfo{"", "", ""}));
     // Firefox's pseudo address makes every page one domain.
     EXPECT_EQ(tabFor("firefox://active|||Mozilla Firefox"),
               (TabInfo{"firefox://active", "Mozilla Firefox", "active"}));
@@ -112,11 +102,9 @@ TEST(BrowserTrackerDomain, HostWithoutLeadingWwwElseTheTextUnchanged) {
         {"https://www.example.com/a", "example.com"},
         {" https://www.example.com/a ", " https://www.example.com/a "},  // untrimmed does not parse
         {"https://docs.www.example.com/", "docs.www.example.com"},       // only a leading "www." goes
-        {"https://wwwexample.com/", "wwwexample.com"},
         {"https://WWW.Example.COM/", "WWW.Example.COM"},  // case is kept, so "WWW." is no prefix
         {"http://user:pw@www.host.net:8080/p?q#f", "host.net"},
         {"file:///etc/hosts", "file:///etc/hosts"},
-        {"not a url", "not a url"},
         {"", ""},
         {std::string("https://a.com/\0x", 16), std::string("https://a.com/\0x", 16)},
     };

@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
+#include "Classification/CategorySettings.h"
 #include "StatementTrace.h"
 #include "TrackerRig.h"
 
@@ -54,7 +53,6 @@ TEST_F(SessionManagerTest, EqualSamplesKeepOneRowWhoseEndMovesOnlyWithHeartbeats
     const ActivityRecord first = rows()[0];
     EXPECT_EQ(first.startTime, t0);
     EXPECT_EQ(first.categoryID, category_id::terminal);
-    EXPECT_EQ(first.confidence, 0.99);
     EXPECT_TRUE(first.isApproved);
     EXPECT_EQ(first.endTime, std::nullopt);  // younger than the first heartbeat
     ASSERT_EQ(sessions.size(), 1u);
@@ -108,11 +106,8 @@ TEST_F(SessionManagerTest, IdleSamplesAreOneAwaySpanWithoutClassification) {
     after(400, away(4000));
     const auto stored = rows();
     ASSERT_EQ(stored.size(), 1u);
-    ActivityRecord expected = ActivityRecord::idle(t0);
-    expected.id = stored[0].id;
-    expected.endTime = t0 + 390;
-    expected.durationSeconds = 390;
-    EXPECT_EQ(stored[0], expected);
+    EXPECT_TRUE(stored[0].isIdle());
+    EXPECT_EQ(stored[0].durationSeconds, 390);
     EXPECT_EQ(stored[0].categoryID, category_id::awayBreak);
     EXPECT_EQ(engine.calls(), 0);
 }
@@ -138,11 +133,7 @@ TEST_F(SessionManagerTest, PublishedValuesArriveThroughTheMainQueueSessionBefore
     EXPECT_EQ(mainQueue.pendingCount(), 2u);
     mainQueue.drain();
     EXPECT_EQ(order, (std::vector<std::string>{"session Zqx", "count 1"}));
-    const auto& session = *manager->currentSession.get();
-    EXPECT_EQ(session.categoryID, category_id::other);
-    EXPECT_EQ(session.confidence, 0.3);
-    EXPECT_TRUE(session.needsApproval);
-    EXPECT_FALSE(session.isApproved);
+    EXPECT_TRUE(manager->currentSession.get()->needsApproval);
 
     // A confident session posts the count of the store, resynced at the close, then itself.
     manager->process(kKitty);
@@ -177,6 +168,26 @@ TEST_F(SessionManagerTest, ARowRefusedFromStartToEndIsStoredWholeAtItsClose) {
     EXPECT_EQ(stored[0].appName, "Zqx");
     EXPECT_EQ(stored[0].startTime, t0);
     EXPECT_EQ(stored[0].durationSeconds, 12);
+
+    // A refused insert is retried at the next heartbeat, from the session's start.
+    db.exec("CREATE TRIGGER refuse BEFORE INSERT ON activities BEGIN SELECT RAISE(FAIL, 'disk'); END;");
+    after(10, kMystery);
+    db.exec("DROP TRIGGER refuse;");
+    after(30, kMystery);
+    ASSERT_EQ(rows().size(), 3u);
+    EXPECT_EQ(rows()[2].startTime, t0 + 22);
+}
+
+TEST_F(SessionManagerTest, TextsOfAnySizeAndEncodingAreStoredUnchanged) {
+    const std::string title = std::string(100'000, 'w') + "\xFF\xC3(\xED\xA0\x80 \xF0\x9F\x8D\x85 '\"";
+    RawActivity odd = app(title, title, title, "\xD9\x85\xD8\xAB.example");
+    odd.url = "https://\xD9\x85\xD8\xAB.example/\xFE?q=" + std::string(50'000, 'q');
+    after(0, odd);
+    after(6, kKitty);
+    const ActivityRecord stored = rows().at(0);
+    EXPECT_EQ(stored.appName, title);
+    EXPECT_EQ(stored.windowTitle, title);
+    EXPECT_EQ(stored.url, odd.url);
 }
 
 TEST_F(SessionManagerTest, SampleThatChangesNothingTouchesNeitherStoreNorEngine) {
@@ -196,11 +207,7 @@ TEST_F(SessionManagerTest, SampleThatChangesNothingTouchesNeitherStoreNorEngine)
     // A change costs a write to close, the pending count and a write to open: the catalogue is not
     // read per sample.
     after(6, kMystery);
-    const auto statements = trace.take();
-    ASSERT_EQ(statements.size(), 3u);
-    EXPECT_TRUE(statements[0].starts_with("UPDATE activities")) << statements[0];
-    EXPECT_TRUE(statements[1].starts_with("SELECT COUNT(*)")) << statements[1];
-    EXPECT_TRUE(statements[2].starts_with("INSERT INTO activities")) << statements[2];
+    EXPECT_EQ(trace.take().size(), 3u);
     EXPECT_EQ(engine.calls(), calls + 1);
 }
 
@@ -219,16 +226,9 @@ TEST_F(SessionManagerTest, CategoryGoneFromTheCatalogueStoresTheSessionUnderOthe
     EXPECT_TRUE(stored[1].isIdle());
 
     // A category added later is used once the catalogue is read again.
-    Category focus;
-    focus.name = "Deep Work";
-    focus.colorHex = "#112233";
-    focus.icon = "x";
-    db.insertCategory(focus);
+    db.insertCategory(newCategory("Deep Work", "x", Productivity::productive));
     manager->categoriesChanged();
-    const auto categories = db.fetchCategories();
-    const auto added = std::find_if(categories.begin(), categories.end(), [](const Category& c) {
-                           return c.name == "Deep Work";
-                       })->id;
+    const auto added = db.fetchCategories().back().id;
     db.saveLearnedRule("app_name", "Zqx", added);
     manager->refreshLearnedRules();
     after(10, kMystery);
