@@ -243,8 +243,7 @@ QString describe(QAccessibleInterface* element) {
     QObject* object = element->object();
     return QStringLiteral("%1 \"%2\" (%3)")
         .arg(QString::fromLatin1(object ? object->metaObject()->className() : "?"), nameOf(element),
-             object && !object->objectName().isEmpty() ? object->objectName()
-                                                       : QStringLiteral("no objectName"));
+             object ? object->objectName() : QString());
 }
 
 void audit(QAccessibleInterface* element, QStringList& problems) {
