@@ -81,11 +81,6 @@ class TrayIconTest : public QObject {
 private slots:
     void menuActionsReachTheirSignals() {
         TrayIcon tray;
-        StatusTitle title;
-        title.icon = "\u23F1";
-        title.pendingCount = 2;
-        title.segments = {{"\u23F1 Starting\u2026", 12, TitleWeight::medium, TitleColor::label, false}};
-        tray.update(title);
         int asked = 0;
         tray.setMenuItems([&asked] {
             ++asked;
