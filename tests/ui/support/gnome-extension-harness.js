@@ -7,28 +7,29 @@ const {Gio, GLib, GObject} = imports.gi;
 
 const FakeWindow = GObject.registerClass({
     Properties: {title: GObject.ParamSpec.string('title', '', '', GObject.ParamFlags.READWRITE, '')},
-},
-                                         class FakeWindow extends GObject.Object {
-    get_title() { return this.title; }
+}, class FakeWindow extends GObject.Object {
+    get_title() {
+        return this.title;
+    }
 
-    get_wm_class() { return 'Nautilus'; }
+    get_wm_class() {
+        return 'Nautilus';
+    }
 
-    get_pid() { return 77; }
+    get_pid() {
+        return 77;
+    }
 });
 const FakeDisplay = GObject.registerClass({
     Properties: {
-        'focus-window':
-            GObject.ParamSpec.object('focus-window', '', '', GObject.ParamFlags.READWRITE, GObject.Object),
+        'focus-window': GObject.ParamSpec.object('focus-window', '', '', GObject.ParamFlags.READWRITE,
+            GObject.Object),
     },
-},
-                                          class FakeDisplay extends GObject.Object {});
+}, class FakeDisplay extends GObject.Object {});
 
-globalThis.global = {
-    display: new FakeDisplay()
-};
+globalThis.global = {display: new FakeDisplay()};
 const Shell = {
-    WindowTracker:
-        {get_default: () => ({get_window_app: () => ({get_id: () => 'org.gnome.Nautilus.desktop'})})},
+    WindowTracker: {get_default: () => ({get_window_app: () => ({get_id: () => 'org.gnome.Nautilus.desktop'})})},
 };
 new imports.focusedWindow.FocusedWindowService({Gio, GLib, Shell});
 
