@@ -36,11 +36,6 @@ void collectTexts(QQuickItem* item, QList<QQuickItem*>& texts) {
         collectTexts(child, texts);
 }
 
-void clickItem(QQuickWindow* window, QQuickItem* item) {
-    QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier,
-                      item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint());
-}
-
 }  // namespace
 
 class ApprovalPopupViewTest : public QObject {

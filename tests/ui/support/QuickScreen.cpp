@@ -146,15 +146,26 @@ QQuickItem* QuickScreen::find(const QString& objectName) const {
     return item || !window_ ? item : findItem(window_->contentItem(), objectName);
 }
 
+namespace {
+
+QPoint centreOf(const QQuickItem* item) {
+    return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+}
+
+}  // namespace
+
+void clickItem(QQuickWindow* window, const QQuickItem* item) {
+    QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier, centreOf(item));
+}
+
 bool QuickScreen::click(const QString& objectName, bool hover) {
     const QQuickItem* item = find(objectName);
     if (!item || !item->isVisible())
         return false;
-    const QPoint centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
     if (hover)
-        QTest::mouseMove(window_, centre);
+        QTest::mouseMove(window_, centreOf(item));
     else
-        QTest::mouseClick(window_, Qt::LeftButton, Qt::NoModifier, centre);
+        clickItem(window_, item);
     return true;
 }
 

@@ -25,6 +25,9 @@ enum class ColorScheme { light, dark };
 // reaches delegates and the insides of controls; null when there is none.
 QQuickItem* findItem(QQuickItem* item, const QString& objectName);
 
+// Clicks the centre of `item` in `window`, which may be a window the screen did not load.
+void clickItem(QQuickWindow* window, const QQuickItem* item);
+
 // The fixed palette of a scheme.
 QPalette schemePalette(ColorScheme scheme);
 
