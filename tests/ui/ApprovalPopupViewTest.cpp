@@ -1,6 +1,7 @@
-// The approval card on screen: its texts, its answers (a grid button, "Skip", a "More…" entry, the
-// end of the countdown), the hover pause, a short grid, long names, and its floating window as the
-// presenter shows it: flags, place, closing on an answer and replacement by the next card.
+// The two floating cards on screen. The approval card: its answers (a grid button, "Skip", a "More…"
+// entry, the end of the countdown), the hover pause, a short grid, long names. The welcome-back card:
+// the time away, its answers and "Dismiss" as "Break". And both floating windows as the presenter
+// shows them: flags, place, closing on an answer and replacement by the next card.
 #include <QPointer>
 #include <QScreen>
 #include <QTest>
@@ -8,6 +9,7 @@
 #include "App/ui/QtAppPresenter.h"
 #include "QuickScreen.h"
 #include "Review/ui/ApprovalPopupController.h"
+#include "Review/ui/IdleReturnController.h"
 
 using namespace larkspan;
 using namespace std::chrono_literals;
@@ -24,17 +26,14 @@ ActivityRecord mystery(std::string title = "Mystery") {
     return record;
 }
 
+using Choices = std::vector<std::int64_t>;
+
 // Every Text item below `item`.
 void collectTexts(QQuickItem* item, QList<QQuickItem*>& texts) {
     if (item->inherits("QQuickText"))
         texts.append(item);
     for (QQuickItem* child : item->childItems())
         collectTexts(child, texts);
-}
-
-void clickItem(QQuickWindow* window, QQuickItem* item) {
-    QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier,
-                      item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint());
 }
 
 }  // namespace
@@ -53,7 +52,6 @@ private slots:
         QCOMPARE(screen.text("activityTitle"), QStringLiteral("Quarterly plan.odt"));
         QCOMPARE(screen.text("countdown"), QStringLiteral("45s"));
         QVERIFY(screen.find("category-5") && !screen.find("category-6"));
-        QCOMPARE(screen.text("category-1"), QStringLiteral("Learning"));
         QVERIFY(screen.saveScreenshots("approval", "six"));
         // Brought to the keyboard, the card rings the focused answer.
         QVERIFY(screen.focusByKeyboard("category-5"));
@@ -92,12 +90,12 @@ private slots:
         QVERIFY(screen.loadCard(QStringLiteral("ApprovalPopupView"), &controller));
         QTRY_VERIFY(controller.countdown() <= 43);
         // Resting on a button holds the card as well as resting on its background.
-        QVERIFY(screen.hover("category-0"));
+        QVERIFY(screen.click("category-0", true));
         QTRY_VERIFY(controller.hovered());
         const int held = controller.countdown();
         QTest::qWait(400);
         QCOMPARE(controller.countdown(), held);
-        QVERIFY(screen.hover("activityTitle"));
+        QVERIFY(screen.click("activityTitle", true));
         QTest::qWait(200);
         QCOMPARE(controller.countdown(), held);
         // Leaving lets it go on from the same value.
@@ -116,8 +114,6 @@ private slots:
         QVERIFY(screen.loadCard(QStringLiteral("ApprovalPopupView"), &controller));
         QVERIFY(!screen.find("category-2"));
         QCOMPARE(screen.text("category-1"), QStringLiteral("AI Tools"));
-        QVERIFY(screen.saveScreenshots("approval", "two"));
-
         QVERIFY(screen.click("more"));
         QQuickItem* overlay = screen.window()->contentItem();
         QTRY_VERIFY(findItem(overlay, "menu-0") && findItem(overlay, "menu-0")->isVisible());
@@ -206,6 +202,45 @@ private slots:
         QVERIFY(!presenter.approvalWindow());
         QTRY_VERIFY(!window);
         QCOMPARE(answers.size(), 1u);
+
+        // The welcome-back card goes through the same presentation: closed on its answer, replaced.
+        Choices choices;
+        presenter.showReturnFromIdlePopup(720, [&](std::int64_t id) {
+            choices.push_back(id);
+            presenter.closeIdlePopup();
+        });
+        window = presenter.idleWindow();
+        QVERIFY(window && QTest::qWaitForWindowExposed(window));
+        clickItem(window, findItem(window->contentItem(), "option-4"));
+        QCOMPARE(choices, Choices{6});
+        QVERIFY(!presenter.idleWindow());
+        QTRY_VERIFY(!window);
+        presenter.showReturnFromIdlePopup(900, [](std::int64_t) {});
+        window = presenter.idleWindow();
+        presenter.showReturnFromIdlePopup(960, [](std::int64_t) {});
+        QVERIFY(presenter.idleWindow() != window && presenter.idleWindow()->isVisible());
+        QTRY_VERIFY(!window);
+    }
+
+    void welcomeBackShowsTheAbsenceAndDismissAnswersAsBreak() {
+        Choices answers, dismissed;
+        IdleReturnController controller(IdleReturn(5400, [&](std::int64_t id) { answers.push_back(id); }));
+        IdleReturnController dismissing(IdleReturn(400, [&](std::int64_t id) { dismissed.push_back(id); }));
+        // After the controllers, so that the views go first.
+        QuickScreen screen;
+        QVERIFY(screen.loadCard(QStringLiteral("IdleReturnView"), &controller));
+        QCOMPARE(screen.text("message"), QStringLiteral("You were away for 1h 30m. What were you doing?"));
+        QVERIFY(screen.find("option-4") && !screen.find("option-5"));
+        QVERIFY(screen.find("message")->property("lineCount").toInt() <= 2);
+        QVERIFY(screen.saveScreenshots("idle-return", "options"));
+        QVERIFY(screen.focusByKeyboard("option-1"));
+        QVERIFY(screen.saveScreenshots("idle-return", "focus-ring"));
+        QVERIFY(screen.click("option-2"));
+        QVERIFY(screen.click("option-0"));
+        QVERIFY(screen.loadCard(QStringLiteral("IdleReturnView"), &dismissing));
+        QVERIFY(screen.click("dismiss"));
+        QCOMPARE(answers, Choices{6});
+        QCOMPARE(dismissed, Choices{15});
     }
 };
 

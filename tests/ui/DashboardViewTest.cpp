@@ -17,25 +17,20 @@ using larkspan::test::ActivityBuilder;
 
 namespace {
 
-// A morning of tracking: closed rows, two of them waiting for a category (one too short to count).
+// A morning of tracking: closed rows, and `pending` rows waiting for a category.
 struct Tracker : test::DashboardRig {
+    const Date t0 = clock.now() - 3 * 3600;
+
     explicit Tracker(int pending) {
-        const Date t0 = clock.now() - 3 * 3600;
-        db.insertActivity(ActivityBuilder(-1, t0, 1500)
-                              .app("Code", "com.microsoft.VSCode")
-                              .title("Parser.cpp")
-                              .category(1));
-        db.insertActivity(ActivityBuilder(-1, t0 + 1500, 600)
-                              .app("Firefox", "org.mozilla.firefox")
-                              .domain("github.com")
-                              .category(1));
-        db.insertActivity(ActivityBuilder::away(-1, t0 + 2100, 900));
+        db.insertActivity(ActivityBuilder(-1, t0, 1500).app("Code").title("Parser.cpp").category(1));
+        db.insertActivity(ActivityBuilder::away(-1, t0 + 1500, 900));
+        addPending(pending);
+    }
+
+    void addPending(int pending) {
         for (int i = 0; i < pending; ++i)
-            db.insertActivity(ActivityBuilder(-1, t0 + 3000 + i * 200, 120)
-                                  .app("Zqx", "org.example.Zqx")
-                                  .category(21)
-                                  .pending(0.3));
-        db.insertActivity(ActivityBuilder(-1, t0 + 4000, 12).app("Blip").category(21).pending(0.3));
+            db.insertActivity(
+                ActivityBuilder(-1, t0 + 3000 + i * 200, 120).app("Zqx").category(21).pending(0.3));
         manager->refreshApprovalCount();
         mainQueue.drain();
     }
@@ -49,22 +44,6 @@ struct Tracker : test::DashboardRig {
         mainQueue.drain();
     }
 };
-
-QColor pixelAt(QuickScreen& screen, const QString& objectName, QPointF inside) {
-    const QQuickItem* item = screen.find(objectName);
-    const QPoint at = item->mapToScene(inside).toPoint();
-    return screen.grab().pixelColor(at);
-}
-
-bool near(const QColor& a, const QColor& b) {
-    return qAbs(a.red() - b.red()) < 12 && qAbs(a.green() - b.green()) < 12 && qAbs(a.blue() - b.blue()) < 12;
-}
-
-QColor over(const QColor& top, double alpha, const QColor& below) {
-    auto mix = [alpha](int t, int b) { return qRound(t * alpha + b * (1 - alpha)); };
-    return QColor(mix(top.red(), below.red()), mix(top.green(), below.green()),
-                  mix(top.blue(), below.blue()));
-}
 
 QQuickView* shownDashboard() {
     QQuickView* found = nullptr;
@@ -88,111 +67,42 @@ private slots:
         qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString((configDir_.path() / "config").string()));
     }
 
-    void sidebarShowsTheLiveSessionAndTheReviewButton() {
-        Tracker tracker(3);
-        tracker.track("Code", "com.microsoft.VSCode", "DashboardController.cpp \u2014 larkspan");
+    // The sidebar follows the tracker's session and pending count; tabs switch by mouse, screen
+    // reader and keyboard.
+    void sidebarFollowsTheTrackerAndSwitchesTabs() {
+        Tracker tracker(0);
         DashboardController& controller = tracker.dashboard;
         controller.loadCategories();
         QuickScreen screen;
         QVERIFY(screen.load("DashboardView", tracker.viewProperties(), {1100, 740}));
+        QVERIFY(!screen.visible("liveCard") && !screen.visible("reviewButton") &&
+                !screen.visible("reviewDivider"));
+        QVERIFY(screen.saveScreenshots("dashboard", "without-session"));
 
-        QCOMPARE(screen.text("sidebarTitle"), QStringLiteral("Larkspan"));
-        QVERIFY(screen.find("liveCard")->isVisible());
-        QCOMPARE(screen.text("liveIcon"), QString::fromStdString(Category::seeded()[0].icon));
-        QCOMPARE(screen.text("liveStatus"), QStringLiteral("Live \u00B7 Coding"));
+        tracker.track("Code", "com.microsoft.VSCode", "DashboardController.cpp \u2014 larkspan");
+        tracker.addPending(3);
+        QCOMPARE(screen.text("liveStatus"), controller.liveCard().status);
         QCOMPARE(screen.text("liveTitle"), QStringLiteral("DashboardController.cpp \u2014 larkspan"));
-        QCOMPARE(screen.find("liveDot")->property("color").value<QColor>(),
-                 QColor(QString::fromStdString(Category::seeded()[0].colorHex)));
-        // Three rows wait; the twelve-second one is too short to count.
-        QCOMPARE(screen.text("reviewTitle"), QStringLiteral("Review Activities"));
+        QCOMPARE(screen.find("liveDot")->property("color").value<QColor>(), controller.liveCard().color);
         QCOMPARE(screen.text("reviewDetail"), QStringLiteral("3 need categorizing"));
-        QVERIFY(screen.find("dateText"));  // the timeline's screen
-
-        for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
-            screen.setColorScheme(scheme);
-            const QColor sidebar = schemePalette(scheme).color(QPalette::Window);
-            QVERIFY(
-                near(pixelAt(screen, "liveCard", {4, 20}), over(controller.liveCard().color, 0.12, sidebar)));
-            QVERIFY(near(pixelAt(screen, "reviewButton", {4, 20}), over(QColor(255, 149, 0), 0.1, sidebar)));
-            QVERIFY(screen.saveScreenshot("dashboard", "session-and-pending"));
-        }
-
-        // A new session redraws the card.
+        QVERIFY(screen.saveScreenshots("dashboard", "session-and-pending"));
         tracker.clock.advance(60);
         tracker.track("kitty", "net.kovidgoyal.kitty", "~/src/larkspan");
         QCOMPARE(screen.text("liveStatus"), QStringLiteral("Live \u00B7 Terminal"));
-
-        // Tabs switch by click, and a built tab shows its screen.
-        QVERIFY(screen.click("tab-Analytics"));
-        QCOMPARE(controller.selectedTab(), QStringLiteral("Analytics"));
-        QCOMPARE(screen.text("analyticsTitle"), QStringLiteral("Analytics"));
-    }
-
-    void withoutSessionTheCardAndTheButtonAreAbsent() {
-        Tracker tracker(0);
-        DashboardController& controller = tracker.dashboard;
-        controller.loadCategories();
-        QuickScreen screen;
-        QVERIFY(screen.load("DashboardView", tracker.viewProperties(), {1100, 740}));
-        QVERIFY(!screen.find("liveCard")->isVisible());
-        QVERIFY(!screen.find("reviewButton")->isVisible());
-        QVERIFY(!screen.find("reviewDivider")->isVisible());
-        // The list moves up under the title.
-        const QQuickItem* title = screen.find("sidebarTitle");
-        QVERIFY(screen.find("tabList")->y() < title->y() + title->height() + 20);
-        for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
-            screen.setColorScheme(scheme);
-            QVERIFY(screen.saveScreenshot("dashboard", "without-session"));
-        }
-    }
-
-    void sessionOutsideTheCategoriesShowsAGreyStopwatch() {
-        Tracker tracker(0);
-        tracker.track("Code", "com.microsoft.VSCode", "main.cpp");
-        // Before the window has read the categories, every category is unknown.
-        DashboardController& controller = tracker.dashboard;
-        QuickScreen screen;
-        QVERIFY(screen.load("DashboardView", tracker.viewProperties(), {1100, 740}));
-        QCOMPARE(screen.text("liveIcon"), QStringLiteral("\u23F1"));
-        QCOMPARE(screen.text("liveStatus"), QStringLiteral("Live \u00B7 Tracking"));
-        QCOMPARE(screen.find("liveDot")->property("color").value<QColor>(), QColor("#8E8E93"));
-        controller.loadCategories();
-        QCOMPARE(screen.text("liveStatus"), QStringLiteral("Live \u00B7 Coding"));
-    }
-
-    void reviewButtonShowsFromOneAndOpensTheReviewScreen() {
-        Tracker tracker(0);
-        DashboardController& controller = tracker.dashboard;
-        QuickScreen screen;
-        QVERIFY(screen.load("DashboardView", tracker.viewProperties(), {1100, 740}));
-        QVERIFY(!screen.find("reviewButton")->isVisible());
-        QVERIFY(!screen.click("reviewButton"));
-        // The published count, not the store's, decides: it may run ahead of the rows.
-        tracker.manager->pendingApprovalCount.set(1);
-        QVERIFY(screen.find("reviewButton")->isVisible());
-        QCOMPARE(screen.text("reviewDetail"), QStringLiteral("1 need categorizing"));
 
         screen.grab();  // lays the sidebar out anew
         QVERIFY(screen.press("reviewButton"));
         QCOMPARE(controller.selectedTab(), QStringLiteral("Review"));
         QCOMPARE(screen.text("reviewHeading"), QStringLiteral("Review Activities"));
         QVERIFY(screen.find("reviewButton")->property("selected").toBool());
-        QVERIFY(!screen.find("tab-Timeline")->property("selected").toBool());
-        for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
-            screen.setColorScheme(scheme);
-            QVERIFY(near(pixelAt(screen, "reviewButton", {4, 20}), QColor(255, 149, 0)));
-            QCOMPARE(screen.find("reviewTitle")->property("color").value<QColor>(), QColor(Qt::white));
-            QVERIFY(screen.saveScreenshot("dashboard", "review-selected"));
-        }
-
+        QVERIFY(screen.saveScreenshots("dashboard", "review-selected"));
         // At 0 the button goes, and the review screen stays until another tab is chosen.
         tracker.manager->pendingApprovalCount.set(0);
-        QVERIFY(!screen.find("reviewButton")->isVisible());
+        QVERIFY(!screen.visible("reviewButton"));
         QCOMPARE(screen.text("reviewHeading"), QStringLiteral("Review Activities"));
-        // A calendar day opens the timeline on that day.
-        controller.dayTapped(1'763'000'000);
-        QVERIFY(screen.find("dateText"));
-        QCOMPARE(controller.selectedDate(), 1'763'000'000.0);
+        QVERIFY(screen.click("tab-Analytics"));
+        QCOMPARE(controller.selectedTab(), QStringLiteral("Analytics"));
+        QCOMPARE(screen.text("analyticsTitle"), QStringLiteral("Analytics"));
 
         // The keyboard's way through the tab list: a ring on the focused tab, the arrows move it.
         QVERIFY(screen.focusByKeyboard("tab-Timeline"));
@@ -201,10 +111,7 @@ private slots:
         QTest::keyClick(screen.window(), Qt::Key_Return);
         QCOMPARE(controller.selectedTab(), QStringLiteral("Focus"));
         QTest::keyClick(screen.window(), Qt::Key_Down);
-        for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
-            screen.setColorScheme(scheme);
-            QVERIFY(screen.saveScreenshot("dashboard", "focus-ring"));
-        }
+        QVERIFY(screen.saveScreenshots("dashboard", "focus-ring"));
     }
 
     void withoutTrayTheDashboardOpensAndIsReusedWithItsState() {
@@ -237,11 +144,8 @@ private slots:
         QCOMPARE(shownDashboard(), window);
         QVERIFY(window->isVisible());
         QCOMPARE(controller->selectedTab(), QStringLiteral("Calendar"));
-        // Asked for while shown, it is raised; the offscreen platform can only say it cannot.
-        QTest::ignoreMessage(QtWarningMsg, "This plugin does not support raise()");
-        presenter.openDashboard();
-        QCOMPARE(shownDashboard(), window);
-        // The popover's pending banner asks for the same window on the review screen.
+        // The popover's pending banner asks for the same window, shown and raised, on the review
+        // screen; the offscreen platform can only say it cannot raise it.
         QTest::ignoreMessage(QtWarningMsg, "This plugin does not support raise()");
         presenter.openReview();
         QCOMPARE(shownDashboard(), window);

@@ -1,21 +1,18 @@
 // The quick summary over a real database in a temporary folder: a full day with a running timer and
-// pending rows, the timer's buttons, an empty day, the buttons' actions, the popover window opening
-// against the tray icon, and the presenter's popover (and every eighth time a card) opened and closed a
-// thousand times without the memory growing. The texts and colours' rules are the core's tests.
+// pending rows, the timer's buttons, an empty day, the buttons' actions, and the presenter's popover (and
+// every eighth time a card) opened and closed a thousand times without the memory growing. The texts and
+// colours' rules are the core's tests.
 #include <unistd.h>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTimer>
-
 #include <QThreadPool>
+#include <QTimer>
 #include <fstream>
+
 #include "ActivityBuilder.h"
 
-#include "App/PopoverPlacement.h"
-#include "App/ui/QmlModule.h"
 #include "App/ui/QtAppPresenter.h"
 #include "App/ui/QuickSummaryController.h"
-#include "App/ui/QuickSummaryPopover.h"
 #include "LocalInstant.h"
 #include "QuickScreen.h"
 #include "ScopedTimeZone.h"
@@ -71,12 +68,9 @@ private slots:
     void fullDayShowsEverySection() {
         Day day;
         day.add(9, 0, 3000, "Code", "main.cpp \u2014 larkspan", category_id::coding);
-        day.add(9, 50, 600, "Thunderbird", "Inbox \u2014 3 unread", category_id::email);
         day.add(10, 0, 1200, "Firefox", "Never Gonna Give You Up \U0001F3B5", category_id::entertainment);
         day.add(10, 20, 900, "LibreOffice Writer", "\u05E9\u05DC\u05D5\u05DD draft.odt",
                 category_id::writing);
-        day.add(10, 35, 300, "Spotify", "Focus playlist", category_id::music);
-        day.add(11, 1, 31, "kitty", "Thirty-one", category_id::terminal);
         const Date pendingStart = test::localInstant(2026, 3, 10, 11, 2);
         day.db.insertActivity(ActivityBuilder(-1, pendingStart, 45)
                                   .app("Zqx")
@@ -99,30 +93,20 @@ private slots:
                             kPopoverSize));
         QVERIFY(day.load());
 
-        // 3000 + 600 + 1200 + 900 + 300 + 31 + 45 seconds.
-        QCOMPARE(screen.text("totalText"), QStringLiteral("1h 41m"));
+        // 3000 + 1200 + 900 + 45 seconds.
+        QCOMPARE(screen.text("totalText"), QStringLiteral("1h 25m"));
         QCOMPARE(screen.text("sessionTitle"), QStringLiteral("~/src/larkspan"));
         QCOMPARE(screen.text("sessionSubtitle"), QStringLiteral("Terminal \u2022 Now"));
-        // The rows the controller keeps, newest first, five of them.
         QCOMPARE(screen.text("recentTitle0"), QStringLiteral("Mystery tool"));
-        QVERIFY(screen.find("recentTitle4") && !screen.find("recentTitle5"));
-        // Four bars; the longest bar is Coding's share of the day.
-        QVERIFY(screen.find("breakdownBar3") && !screen.find("breakdownBar4"));
+        // The longest bar is Coding's share of the day.
         const QQuickItem* fill = screen.find("breakdownFill0");
-        QVERIFY(fill);
+        QVERIFY(fill && screen.find("breakdownBar3") && !screen.find("breakdownBar4"));
         QTRY_COMPARE(qRound(fill->width() * 1000 / fill->parentItem()->width()),
-                     qRound(3000.0 * 1000 / 6076));
+                     qRound(3000.0 * 1000 / 5145));
         QVERIFY(!screen.text("productivityText").isEmpty() && screen.visible("pendingBanner"));
         QCOMPARE(screen.text("timerTime"), QStringLiteral("20:00"));
-        QVERIFY(screen.visible("timerStopButton"));
         QTest::qWait(600);  // the ring's arc has caught up
         QVERIFY(screen.saveScreenshots("quick-summary", "full-day-running"));
-        // The rest of the recent list is below the fold.
-        auto* flickable = screen.find("scroller")->property("contentItem").value<QQuickItem*>();
-        QVERIFY(flickable);
-        flickable->setProperty("contentY",
-                               flickable->property("contentHeight").toReal() - flickable->height());
-        QVERIFY(screen.saveScreenshots("quick-summary", "full-day-scrolled"));
     }
 
     // Each timer button drives the timer, by mouse and by a screen reader; the view follows the run state.
@@ -148,7 +132,6 @@ private slots:
         QTest::qWait(600);  // the ring's arc has caught up
         QVERIFY(screen.saveScreenshots("quick-summary", "timer-paused"));
         QVERIFY(screen.focusByKeyboard("timerMainButton"));
-        QVERIFY(screen.find("timerMainButton")->property("visualFocus").toBool());
         QVERIFY(screen.saveScreenshots("quick-summary", "focus-ring"));
         QVERIFY(screen.click("timerMainButton"));
         QCOMPARE(day.pomodoro.runState.get(), PomodoroTimer::RunState::running);
@@ -183,35 +166,15 @@ private slots:
         QVERIFY(screen.click("pendingBanner"));
         QCOMPARE(reviewed, 1);
         QCOMPARE(opened, 1);
-        // The refresh runs every 30 seconds without anyone asking: a row stored meanwhile appears.
-        // The test shortens the wait, not the behaviour.
+        // The refresh runs without anyone asking: a row stored meanwhile appears. The test shortens
+        // the wait, not the behaviour.
         auto* refresh = day.controller.findChild<QTimer*>();
-        QVERIFY(refresh);
-        QCOMPARE(refresh->interval(), 30'000);
-        QVERIFY(refresh->isActive());
+        QVERIFY(refresh && refresh->isActive());
         day.add(11, 0, 600, "Code", "refresh.cpp", category_id::coding);
         QSignalSpy loaded(&day.controller, &QuickSummaryController::dayChanged);
         refresh->setInterval(50);
         QVERIFY(loaded.wait(5'000));
         QCOMPARE(screen.text("recentTitle0"), QStringLiteral("refresh.cpp"));
-    }
-
-    void popoverOpensAgainstTheTrayIconInsideTheScreen() {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
-        Day day;
-        QQmlEngine engine;
-        prepareQmlEngine(engine);
-        QuickSummaryPopover popover(engine, day.controller);
-        const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
-        const QRect icon(available.right() - 30, available.top(), 22, 22);
-        popover.toggle(icon);
-        QVERIFY(popover.isShown());
-        QCOMPARE(popover.window().size(), QuickSummaryPopover::kSize);
-        // Below the icon, its right edge on the screen's.
-        QCOMPARE(popover.window().geometry().right(), available.right());
-        QCOMPARE(popover.window().y(), icon.bottom() + 1 + kPopoverGap);
-        popover.toggle(icon);
-        QVERIFY(!popover.isShown());
     }
 
     void presenterWindowsOpenAndCloseWithoutGrowing() {

@@ -1,9 +1,15 @@
 // The settings tab over a real store: the category list with its badges, both sheets (adding, a
-// refused name, editing, Escape), hostile names, a failed write, and the retention buttons.
+// refused name, editing, Escape), hostile names, a failed write, and the retention buttons; and its
+// browser section: per browser, whether its extension reported in the last minute, following the
+// bridge as time passes while the view is shown.
+#include <QSignalSpy>
 #include <QTest>
 
 #include "ActivityBuilder.h"
+#include "App/ui/BrowserBridgeStatusModel.h"
 #include "DashboardRig.h"
+#include "FakeBrowserBridge.h"
+#include "ManualClock.h"
 #include "QuickScreen.h"
 
 using namespace larkspan;
@@ -96,6 +102,42 @@ private slots:
         QCOMPARE(QString::fromStdString(s.rig.db.fetchCategories().front().name), hostile);
         QCOMPARE(s.rig.db.fetchActivity(old)->categoryID, category_id::coding);
         QCOMPARE(s.controller.categories()->count(), 21);
+    }
+
+    void showsWhichBrowsersReportedInTheLastMinute() {
+        auto bridge = std::make_shared<test::FakeBrowserBridge>();
+        test::ManualClock clock{10'000};
+        bridge->setReports({{11, "chromium", false, "https://github.com/", "GitHub", 9'988},
+                            {12, "firefox-esr", true, "", "", 9'930},
+                            {13, "xterm", false, "a", "b", 9'999}});
+        BrowserBridgeStatusModel model(bridge, clock);
+        BrowserBridgeStatusModel::share(&model);
+        QuickScreen screen;
+        QVERIFY(screen.loadText("import Larkspan\nBrowserBridgeStatus { width: 460 }", {}, {480, 250}));
+
+        auto detail = [&](const char* browser) {
+            const auto* row = screen.find(QStringLiteral("browser-") + browser);
+            return row ? row->property("detail").toString() : QString();
+        };
+        QCOMPARE(detail("Chromium"), QStringLiteral("Reported a tab 12 seconds ago"));
+        QCOMPARE(detail("Firefox"), QStringLiteral("No tab reported in the last minute"));
+        QCOMPARE(detail("Vivaldi"), QStringLiteral("No tab reported in the last minute"));
+        QVERIFY(screen.saveScreenshots(QStringLiteral("BrowserBridgeStatus"), QStringLiteral("chromium")));
+
+        // Only the rows that changed are announced.
+        QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+        clock.advance(50);
+        model.refresh();
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(detail("Chromium"), QStringLiteral("No tab reported in the last minute"));
+
+        // The bridge is read on a timer only while the view is on screen.
+        QVERIFY(model.isRefreshing());
+        screen.window()->hide();
+        QVERIFY(!model.isRefreshing());
+        screen.window()->show();
+        QVERIFY(model.isRefreshing());
+        BrowserBridgeStatusModel::share(nullptr);
     }
 };
 

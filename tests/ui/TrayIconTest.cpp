@@ -1,22 +1,86 @@
-// The tray's menu and its tooltip follow the status title.
+// The tray icon: its menu reaches the signals; the painted icon at every common panel size, where the
+// emoji fills it and the badge appears only when something waits, each state saved as a PNG; and
+// "Start Larkspan at login" as the Settings page and the tray menu show it: both show the entry's
+// presence, a change in one shows in the other, a file removed by hand reads as off, and a refused
+// change leaves the switch off with the reason.
 #include <QApplication>
+#include <QDir>
 #include <QSignalSpy>
 #include <QTest>
 
+#include <filesystem>
+#include <fstream>
+
+#include "App/ui/StartAtLoginController.h"
 #include "App/ui/TrayIcon.h"
+#include "App/ui/TrayIconPainter.h"
+#include "MemoryKeyValueStore.h"
+#include "QuickScreen.h"
+#include "RecordingNotifier.h"
+#include "TempDir.h"
 
 using namespace larkspan;
+
+namespace {
+
+int opaquePixels(const QImage& image, const QRect& area) {
+    int count = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
+            count += qAlpha(image.pixel(x, y)) > 128;
+    return count;
+}
+
+bool hasBadgeOrange(const QImage& image, const QRect& area) {
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            const QColor c = image.pixelColor(x, y);
+            if (c.alpha() > 200 && c.red() > 230 && c.green() > 120 && c.green() < 170 && c.blue() < 40)
+                return true;
+        }
+    }
+    return false;
+}
+
+struct Setup {
+    test::TempDir dir;
+    std::filesystem::path entry = dir / "config/autostart/org.larkspan.Larkspan.desktop";
+    test::MemoryKeyValueStore settings;
+    test::RecordingNotifier notifier;
+    StartAtLogin startAtLogin{entry, "/usr/bin/larkspan", settings};
+    StartAtLoginController controller{nullptr};
+    QuickScreen screen;
+    TrayIcon tray;
+    ~Setup() { StartAtLoginController::share(nullptr); }
+
+    // The switch as the Settings page shows it and a tray menu, both over the one shared controller.
+    bool open() {
+        controller.setStartAtLogin(&startAtLogin, &notifier);
+        StartAtLoginController::share(&controller);
+        tray.setMenuItems([] {
+            return std::vector<MenuItem>{{"Open Dashboard", MenuItem::Action::openDashboard},
+                                         {"", MenuItem::Action::separator},
+                                         {"Quit Larkspan", MenuItem::Action::quit}};
+        });
+        tray.setStartAtLogin(&controller);
+        return screen.load("StartAtLoginSwitch", {}, {480, 90});
+    }
+    bool switchOn() const { return screen.find("startAtLoginSwitch")->property("checked").toBool(); }
+    QAction* menuEntry() {
+        emit const_cast<QMenu&>(tray.menu()).aboutToShow();
+        const auto actions = tray.menu().actions();
+        return actions.size() == 5 && actions[1]->isSeparator() && actions[3]->isSeparator() ? actions[2]
+                                                                                             : nullptr;
+    }
+};
+
+}  // namespace
 
 class TrayIconTest : public QObject {
     Q_OBJECT
 private slots:
     void menuActionsReachTheirSignals() {
         TrayIcon tray;
-        StatusTitle title;
-        title.icon = "\u23F1";
-        title.pendingCount = 2;
-        title.segments = {{"\u23F1 Starting\u2026", 12, TitleWeight::medium, TitleColor::label, false}};
-        tray.update(title);
         int asked = 0;
         tray.setMenuItems([&asked] {
             ++asked;
@@ -42,6 +106,68 @@ private slots:
         actions[3]->trigger();
         QCOMPARE(dashboard.count(), 2);
         QCOMPARE(quit.count(), 1);
+    }
+
+    void drawsEachStateCrisplyAtEverySize_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("pending");
+        QTest::addColumn<QString>("timer");
+        QTest::addColumn<bool>("paused");
+        QTest::newRow("plain") << "plain" << 0 << QString() << false;
+        QTest::newRow("pending") << "pending" << 3 << QString() << false;
+        QTest::newRow("many-pending") << "many-pending" << 120 << QString() << false;
+        QTest::newRow("focus") << "focus" << 0 << QString::fromUtf8("\xF0\x9F\x8D\x85") << false;
+        QTest::newRow("break-paused-pending")
+            << "break-paused-pending" << 7 << QString::fromUtf8("\xE2\x98\x95") << true;
+    }
+
+    void drawsEachStateCrisplyAtEverySize() {
+        QFETCH(QString, name);
+        QFETCH(int, pending);
+        QFETCH(QString, timer);
+        QFETCH(bool, paused);
+        const TrayIconContent content{QString::fromUtf8("\xF0\x9F\x92\xBB"), pending, timer, paused};
+        const QString dir = QStringLiteral(LARKSPAN_SCREENSHOT_DIR);
+        QDir().mkpath(dir);
+        for (int size : {16, 22, 24, 32}) {
+            const QImage image = TrayIconPainter::paint(content, size);
+            QCOMPARE(image.size(), QSize(size, size));
+            // The emoji covers a good part of the icon: a font that fails to load leaves it empty.
+            QVERIFY2(opaquePixels(image, image.rect()) > size * size / 4, qPrintable(name));
+            const QRect topRight(size / 2, 0, size / 2, size / 2);
+            QCOMPARE(hasBadgeOrange(image, topRight), pending > 0);
+            QVERIFY(TrayIconPainter::paint(content, size, 2.0)
+                        .save(QStringLiteral("%1/tray-%2-%3@2x.png").arg(dir, name).arg(size)));
+            QVERIFY(image.save(QStringLiteral("%1/tray-%2-%3.png").arg(dir, name).arg(size)));
+        }
+        // The badge caps at 99.
+        QCOMPARE(TrayIconPainter::badgeText(99), QStringLiteral("99"));
+        QCOMPARE(TrayIconPainter::badgeText(100), QStringLiteral("99+"));
+    }
+
+    void switchAndMenuShowTheEntrysPresence() {
+        Setup s;
+        QVERIFY(s.open());
+        QVERIFY(!s.switchOn());
+        QVERIFY(s.screen.click("startAtLoginSwitch"));
+        QVERIFY(s.switchOn());
+        QAction* entry = s.menuEntry();
+        QVERIFY(entry && entry->isCheckable() && entry->isChecked());
+        QVERIFY(s.screen.saveScreenshots("startAtLogin", "on"));
+
+        // Removed by hand: the menu reads it as off as it opens, and the page follows.
+        std::filesystem::remove(s.entry);
+        QVERIFY(!s.menuEntry()->isChecked());
+        QVERIFY(!s.switchOn());
+
+        // Refused: the switch stays off, says why, and the reason also goes out as a notification.
+        std::filesystem::remove_all(s.dir / "config");
+        std::ofstream(s.dir / "config") << "a file where the folder goes";
+        s.menuEntry()->trigger();
+        QVERIFY(!s.switchOn());
+        QVERIFY(s.screen.text("startAtLoginProblem").contains(QStringLiteral("config/autostart")));
+        QCOMPARE(s.notifier.sent.size(), size_t(1));
+        QVERIFY(s.screen.saveScreenshots("startAtLogin", "refused"));
     }
 };
 

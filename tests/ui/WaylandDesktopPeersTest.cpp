@@ -1,6 +1,7 @@
 // What a Wayland session's D-Bus peers give Larkspan, against fakes on a private session bus: the
-// GNOME and KWin window sources, and the prompts as notifications with actions; and the KWin script
-// itself in a JavaScript engine against a fake KWin workspace.
+// GNOME and KWin window sources, input silence from org.freedesktop.ScreenSaver, and the prompts as
+// notifications with actions, whose server is asked only when one is due; and the KWin script itself
+// in a JavaScript engine against a fake KWin workspace.
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
@@ -13,12 +14,17 @@
 #include "ManualMainQueue.h"
 #include "Platform/Qt/GnomeExtensionInstaller.h"
 #include "Platform/Qt/GnomeShellSource.h"
+#include "Platform/Qt/IdleTimePoll.h"
 #include "Platform/Qt/KWinSource.h"
+#include "Platform/Qt/LazyNotificationPrompts.h"
 #include "Platform/Qt/NotificationPrompts.h"
 #include "RecordingNotifier.h"
 #include "RecordingPresenter.h"
 
 using namespace larkspan;
+
+// The connection that owns the fake screen saver and notification server.
+const QString kPeer = QStringLiteral("peer");
 
 // A Shell extension that hangs.
 class FakeExtension : public QObject {
@@ -54,15 +60,33 @@ public slots:
     void start() { ++starts; }
 };
 
+class FakeScreenSaver : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.ScreenSaver")
+public:
+    QVariant answer;
+public slots:
+    uint GetSessionIdleTime(const QDBusMessage& call) {
+        call.setDelayedReply(true);
+        QDBusConnection(kPeer).send(call.createReply(answer));
+        return 0;
+    }
+};
+
 class FakeNotificationServer : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
 public:
+    QStringList capabilities;
     QStringList lastActions;
     QList<uint> closed;
     uint next = 0;
+    int asked = 0;
 public slots:
-    QStringList GetCapabilities() { return {"body", "actions"}; }
+    QStringList GetCapabilities() {
+        ++asked;
+        return capabilities;
+    }
     uint Notify(const QString&, uint replaces, const QString&, const QString&, const QString&,
                 const QStringList& actions, const QVariantMap&, int) {
         lastActions = actions;
@@ -85,6 +109,8 @@ class WaylandDesktopPeersTest : public QObject {
     QString address_;
     FakeExtension extension_;
     FakeMutter mutter_;
+    FakeScreenSaver screenSaver_;
+    FakeNotificationServer server_;
 
     QDBusConnection connect(const QString& name) { return QDBusConnection::connectToBus(address_, name); }
     void emitChanged(QDBusConnection& peer, const QString& title) {
@@ -99,6 +125,15 @@ private slots:
         daemon_.start("dbus-daemon", {"--session", "--nofork", "--print-address=1"});
         QVERIFY(daemon_.waitForReadyRead(5000));
         address_ = QString::fromUtf8(daemon_.readLine()).trimmed();
+        // The session bus of everything of ours that does not get a connection handed in.
+        qputenv("DBUS_SESSION_BUS_ADDRESS", address_.toUtf8());
+        auto bus = connect(kPeer);
+        QVERIFY(bus.registerObject("/org/freedesktop/ScreenSaver", &screenSaver_,
+                                   QDBusConnection::ExportAllSlots));
+        QVERIFY(
+            bus.registerObject("/org/freedesktop/Notifications", &server_, QDBusConnection::ExportAllSlots));
+        QVERIFY(bus.registerService("org.freedesktop.ScreenSaver"));
+        QVERIFY(bus.registerService("org.freedesktop.Notifications"));
     }
     void cleanupTestCase() {
         daemon_.kill();
@@ -191,11 +226,10 @@ private slots:
     }
 
     void promptsBecomeNotificationsThatResolveLikeTheCards() {
-        FakeNotificationServer server;
-        auto peer = connect("notifications");
-        QVERIFY(
-            peer.registerObject("/org/freedesktop/Notifications", &server, QDBusConnection::ExportAllSlots));
-        QVERIFY(peer.registerService("org.freedesktop.Notifications"));
+        FakeNotificationServer& server = server_;
+        server.capabilities = {"body", "actions"};
+        server.next = 0;
+        auto peer = QDBusConnection(kPeer);
         test::RecordingPresenter windows;
         NotificationPrompts prompts(windows, connect("larkspan-prompts"));
         QTRY_VERIFY(prompts.usesNotifications());
@@ -266,6 +300,51 @@ private slots:
         )");
         QCOMPARE(result.toString(), QString("Activated|konsole|konsole|~|5;Activated|konsole|konsole|~/src|5;"
                                             "Activated|kate|kate|a.txt|6;Activated||||0"));
+    }
+
+    // Milliseconds, as KDE answers; an answer of another type leaves the last figure (an hour).
+    void screenSaverIdleTime_data() {
+        QTest::addColumn<QVariant>("answer");
+        QTest::addColumn<double>("idle");
+        QTest::newRow("ninety seconds") << QVariant(90'000u) << 90.0;
+        QTest::newRow("half a second") << QVariant(500u) << 0.0;
+        QTest::newRow("text") << QVariant("idle") << 3600.0;
+    }
+    void screenSaverIdleTime() {
+        QFETCH(QVariant, answer);
+        QFETCH(double, idle);
+        screenSaver_.answer = answer;
+        auto workspace = makeWorkspace(nullptr);
+        workspace->inputSilentSince(std::chrono::steady_clock::now() - std::chrono::hours(1));
+        IdleTimePoll poll(workspace, IdleTimePoll::kScreenSaver);
+        poll.startOnSessionBus();
+        QTest::qWait(IdleTimePoll::kPollMs + IdleTimePoll::kCallTimeoutMs / 2);
+        const double seen = workspace->secondsSinceLastInput();
+        QVERIFY2(seen >= idle && seen < idle + 5, qPrintable(QString::number(seen)));
+    }
+
+    // Nothing goes to the server before the first prompt; that one waits for its answer and goes out
+    // as a notification when the server has actions, else as the window.
+    void promptsAskTheServerOnlyWhenOneIsDue() {
+        for (const bool actions : {true, false}) {
+            server_.capabilities = actions ? QStringList{"body", "actions"} : QStringList{"body"};
+            server_.asked = 0;
+            server_.next = 0;
+            test::RecordingPresenter windows;
+            LazyNotificationPrompts prompts(windows);
+            QTest::qWait(300);
+            QCOMPARE(server_.asked, 0);
+            QVERIFY(!prompts.prompts());
+
+            prompts.showReturnFromIdlePopup(720, [](std::int64_t) {});
+            ActivityRecord record;
+            record.appName = "Mystery";
+            prompts.showApprovalPopup(record, Category::seeded(), {2}, [](auto) {});
+            QTRY_COMPARE(static_cast<int>(server_.next) + static_cast<int>(windows.calls.size()), 2);
+            QCOMPARE(server_.asked, 1);
+            const std::vector<std::string> shownAsWindows{"showApproval", "showIdle"};
+            QCOMPARE(windows.calls, actions ? std::vector<std::string>{} : shownAsWindows);
+        }
     }
 };
 

@@ -62,10 +62,6 @@ QuickScreen::~QuickScreen() {
     QGuiApplication::setPalette(originalPalette_);
 }
 
-void QuickScreen::setContextProperty(const QString& name, QObject* object) {
-    engine_.rootContext()->setContextProperty(name, object);
-}
-
 bool QuickScreen::load(const QString& typeName, const QVariantMap& properties, QSize size) {
     return create(QStringLiteral("import Larkspan\n%1 {}\n").arg(typeName).toUtf8(), properties, size);
 }
@@ -75,7 +71,7 @@ bool QuickScreen::loadText(const QByteArray& qml, const QVariantMap& properties,
 }
 
 bool QuickScreen::loadCard(const QString& typeName, QObject* controller) {
-    setContextProperty(QStringLiteral("cardController"), controller);
+    engine_.rootContext()->setContextProperty(QStringLiteral("cardController"), controller);
     const QByteArray scene = QStringLiteral(R"(
 import QtQuick
 import Larkspan
@@ -150,26 +146,26 @@ QQuickItem* QuickScreen::find(const QString& objectName) const {
     return item || !window_ ? item : findItem(window_->contentItem(), objectName);
 }
 
-std::optional<QPoint> QuickScreen::centreOf(const QString& objectName) const {
-    const QQuickItem* item = find(objectName);
-    if (!item || !item->isVisible())
-        return std::nullopt;
+namespace {
+
+QPoint centreOf(const QQuickItem* item) {
     return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
 }
 
-bool QuickScreen::click(const QString& objectName) {
-    const std::optional<QPoint> centre = centreOf(objectName);
-    if (!centre)
-        return false;
-    QTest::mouseClick(window_, Qt::LeftButton, Qt::NoModifier, *centre);
-    return true;
+}  // namespace
+
+void clickItem(QQuickWindow* window, const QQuickItem* item) {
+    QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier, centreOf(item));
 }
 
-bool QuickScreen::hover(const QString& objectName) {
-    const std::optional<QPoint> centre = centreOf(objectName);
-    if (!centre)
+bool QuickScreen::click(const QString& objectName, bool hover) {
+    const QQuickItem* item = find(objectName);
+    if (!item || !item->isVisible())
         return false;
-    QTest::mouseMove(window_, *centre);
+    if (hover)
+        QTest::mouseMove(window_, centreOf(item));
+    else
+        clickItem(window_, item);
     return true;
 }
 
@@ -219,22 +215,11 @@ QImage QuickScreen::grab() {
 namespace {
 
 bool isControl(QAccessible::Role role) {
-    switch (role) {
-        case QAccessible::Button:
-        case QAccessible::CheckBox:
-        case QAccessible::RadioButton:
-        case QAccessible::PageTab:
-        case QAccessible::ListItem:
-        case QAccessible::MenuItem:
-        case QAccessible::Slider:
-        case QAccessible::SpinBox:
-        case QAccessible::EditableText:
-        case QAccessible::ComboBox:
-        case QAccessible::Link:
-            return true;
-        default:
-            return false;
-    }
+    static const QList<QAccessible::Role> controls = {
+        QAccessible::Button,       QAccessible::CheckBox, QAccessible::RadioButton, QAccessible::PageTab,
+        QAccessible::ListItem,     QAccessible::MenuItem, QAccessible::Slider,      QAccessible::SpinBox,
+        QAccessible::EditableText, QAccessible::ComboBox, QAccessible::Link};
+    return controls.contains(role);
 }
 
 // The name a screen reader hears. Offscreen, a control that shows a text does not publish it as its
@@ -269,8 +254,7 @@ QString describe(QAccessibleInterface* element) {
     QObject* object = element->object();
     return QStringLiteral("%1 \"%2\" (%3)")
         .arg(QString::fromLatin1(object ? object->metaObject()->className() : "?"), nameOf(element),
-             object && !object->objectName().isEmpty() ? object->objectName()
-                                                       : QStringLiteral("no objectName"));
+             object ? object->objectName() : QString());
 }
 
 void audit(QAccessibleInterface* element, QStringList& problems) {
@@ -299,31 +283,21 @@ QString QuickScreen::accessibleName(const QString& objectName) const {
     return element ? nameOf(element) : QString();
 }
 
-QStringList QuickScreen::accessibilityProblems() const {
-    QStringList problems;
-    // As when a screen reader starts: every control that exists now publishes its role and actions.
-    QAccessible::setActive(true);
-    if (window_)
-        audit(QAccessible::queryAccessibleInterface(window_), problems);
-    return problems;
-}
-
-bool QuickScreen::saveScreenshot(const QString& test, const QString& state) {
-    for (const QString& problem : accessibilityProblems())
-        qWarning().noquote() << test << state << "is not accessible:" << problem;
-    const QImage image = grab();
-    const QString dir = QStringLiteral(LARKSPAN_SCREENSHOT_DIR);
-    if (image.isNull() || !QDir().mkpath(dir))
-        return false;
-    const QString scheme = scheme_ == ColorScheme::dark ? QStringLiteral("dark") : QStringLiteral("light");
-    return image.save(QStringLiteral("%1/%2-%3-%4.png").arg(dir, test, state, scheme));
-}
-
 bool QuickScreen::saveScreenshots(const QString& test, const QString& state) {
-    bool saved = true;
-    for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+    const QString dir = QStringLiteral(LARKSPAN_SCREENSHOT_DIR);
+    bool saved = window_ && QDir().mkpath(dir);
+    for (const auto& [scheme, name] :
+         {std::pair(ColorScheme::light, "light"), std::pair(ColorScheme::dark, "dark")}) {
         setColorScheme(scheme);
-        saved = saveScreenshot(test, state) && saved;
+        // As when a screen reader starts: every control that exists now publishes its role and actions.
+        QAccessible::setActive(true);
+        QStringList problems;
+        audit(QAccessible::queryAccessibleInterface(window_), problems);
+        for (const QString& problem : problems)
+            qWarning().noquote() << test << state << name << "is not accessible:" << problem;
+        const QImage image = grab();
+        saved = saved && !image.isNull() &&
+                image.save(QStringLiteral("%1/%2-%3-%4.png").arg(dir, test, state, QLatin1String(name)));
     }
     setColorScheme(ColorScheme::light);
     return saved;

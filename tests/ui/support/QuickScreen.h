@@ -25,6 +25,9 @@ enum class ColorScheme { light, dark };
 // reaches delegates and the insides of controls; null when there is none.
 QQuickItem* findItem(QQuickItem* item, const QString& objectName);
 
+// Clicks the centre of `item` in `window`, which may be a window the screen did not load.
+void clickItem(QQuickWindow* window, const QQuickItem* item);
+
 // The fixed palette of a scheme.
 QPalette schemePalette(ColorScheme scheme);
 
@@ -34,10 +37,6 @@ public:
     ~QuickScreen();
     QuickScreen(const QuickScreen&) = delete;
     QuickScreen& operator=(const QuickScreen&) = delete;
-
-    QQmlEngine& engine() { return engine_; }
-    // Makes `object` visible to the views as `name`; call before load().
-    void setContextProperty(const QString& name, QObject* object);
 
     // Loads the module's type `typeName` ("TimelineView") with `properties` at `size` logical pixels and
     // shows it. A view that is a Window is shown as it is; an Item is placed in a window of its own.
@@ -55,14 +54,12 @@ public:
 
     // Sets the application palette of `scheme`; the views follow it.
     void setColorScheme(ColorScheme scheme);
-    ColorScheme colorScheme() const { return scheme_; }
 
     // The first item below the root named `objectName`; null when there is none.
     QQuickItem* find(const QString& objectName) const;
-    // Clicks or hovers the centre of the item named `objectName`; false when there is none or it is
-    // not visible.
-    bool click(const QString& objectName);
-    bool hover(const QString& objectName);
+    // Clicks (or, with `hover`, only moves the pointer to) the centre of the item named `objectName`;
+    // false when there is none or it is not visible.
+    bool click(const QString& objectName, bool hover = false);
     // Does the item's accessible press action, as a screen reader does; false when there is none.
     bool press(const QString& objectName);
     // What a screen reader calls the item; empty when it has no accessible element.
@@ -77,19 +74,14 @@ public:
 
     // The window as drawn now, after pending updates.
     QImage grab();
-    // Saves grab() as "<test>-<state>-<light|dark>.png" under LARKSPAN_SCREENSHOT_DIR; false when
-    // the image is empty or cannot be written. Every state a test renders is also audited for
-    // accessibility: a problem is a warning, which fails the test.
-    bool saveScreenshot(const QString& test, const QString& state);
-    // saveScreenshot() in light, then dark; the screen is left light.
+    // Saves grab() in light, then dark, as "<test>-<state>-<light|dark>.png" under
+    // LARKSPAN_SCREENSHOT_DIR; false when an image is empty or cannot be written. The screen is left
+    // light. Each scheme is also audited for accessibility: a control without a name, or an element
+    // offering a press that nothing answers, is a warning, which fails the test.
     bool saveScreenshots(const QString& test, const QString& state);
-    // What a screen reader could not use in the window as it is now: a control without a name, or an
-    // element offering to be pressed whose press nothing answers.
-    QStringList accessibilityProblems() const;
 
 private:
     bool create(const QByteArray& qml, const QVariantMap& properties, QSize size);
-    std::optional<QPoint> centreOf(const QString& objectName) const;
 
     QQmlEngine engine_;
     std::unique_ptr<QQuickWindow> ownWindow_;
