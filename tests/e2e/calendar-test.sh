@@ -21,9 +21,7 @@ tracked() { [ "$(db "SELECT COALESCE(SUM(duration_seconds), 0) FROM activities")
 # A heartbeat (30 s after launch) writes the open row's duration at the latest.
 wait_until 35 tracked || fail "nothing tracked: $(db "SELECT app_name, duration_seconds FROM activities" | tr "\n" " ")"
 
-a11y tray activate
-a11y press "push button" "Open Dashboard"
-a11y has frame Larkspan
+open_dashboard
 a11y press "page tab" Calendar
 a11y has heading Calendar
 
