@@ -30,7 +30,15 @@ background() {
     e2e_pids+=("$!")
 }
 
-. "$e2e_dir/wait-until.sh"
+# wait_until SECONDS COMMAND...: polls every 0.1 s until the command succeeds.
+wait_until() {
+    local deadline=$((SECONDS + $1))
+    shift
+    until "$@" >/dev/null 2>&1; do
+        [ "$SECONDS" -lt "$deadline" ] || return 1
+        sleep 0.1
+    done
+}
 
 # xprop succeeds also when the property is missing; a window manager names its check window.
 wm_running() {

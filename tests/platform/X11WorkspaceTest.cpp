@@ -220,6 +220,9 @@ TEST_F(X11WorkspaceTest, SurvivesTheServerGoingAwayAndReconnects) {
     int activations = 0;
     workspace->setApplicationActivatedHandler([&] { ++activations; });
     bringToFront(*workspace, windowOf("LarkspanAlpha"), "LarkspanAlpha");
+    std::this_thread::sleep_for(100ms);
+    mainQueue->drain();
+    activations = 0;
 
     display->stopServer();
     const std::clock_t before = std::clock();
