@@ -14,8 +14,7 @@ xdotool windowactivate --sync "$first"
 launch
 wait_until 10 has_rows_above 0 || fail "no activity stored 10 s after launch"
 for window in "$second" "$first" "$second"; do
-    xdotool windowactivate --sync "$window"
-    sleep 4
+    switch_to "$window" 4
 done
 tracked() { [ "$(db "SELECT COALESCE(SUM(duration_seconds), 0) FROM activities")" -gt 0 ]; }
 # A heartbeat (30 s after launch) writes the open row's duration at the latest.

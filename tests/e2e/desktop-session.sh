@@ -135,6 +135,11 @@ launch() {
 }
 rows() { db "SELECT count(*) FROM activities" 2>/dev/null || echo 0; }
 has_rows_above() { [ "$(rows)" -gt "$1" ]; }
+# switch_to WINDOW SECONDS: the window in front for that long.
+switch_to() {
+    xdotool windowactivate --sync "$1"
+    sleep "$2"
+}
 # The tracker has exited (or is a zombie waiting to be reaped).
 tracker_ended() { ! kill -0 "$tracker" 2>/dev/null || grep -q '^State:.*Z' "/proc/$tracker/status"; }
 

@@ -48,8 +48,7 @@ ended_near "$(last_row)" "$quit_at" || fail "row not ended at the tray quit: $(l
 start_tracker
 second_row() { [ "$(rows_of Hostile)" -gt 1 ]; }
 wait_until 5 second_row || fail "no row after the relaunch"
-xdotool windowactivate --sync "$terminal"
-sleep 2
+switch_to "$terminal" 2
 kill -TERM "$tracker"
 wait_until 10 tracker_ended || fail "SIGTERM did not end the tracker"
 [ "$(rows_of Shell)" = 0 ] || fail "a 2 s session stayed after SIGTERM"
@@ -60,12 +59,9 @@ start_tracker
 sleep 2
 (echo "BEGIN EXCLUSIVE; INSERT INTO daily_pomo_counts VALUES ('lock', 0);"; sleep 5; echo "COMMIT;") |
     db >/dev/null &
-xdotool windowactivate --sync "$terminal"
-sleep 6
-xdotool windowactivate --sync "$other"
-sleep 6
-xdotool windowactivate --sync "$editor"
-sleep 1
+switch_to "$terminal" 6
+switch_to "$other" 6
+switch_to "$editor" 1
 [ "$(rows_of Shell)$(rows_of Ledger)" = 11 ] || fail "switches lost to a lock: $(db 'SELECT app_name FROM activities')"
 
 # A database that cannot be written: said once, and tracking goes on.
@@ -75,14 +71,12 @@ chmod 444 "$XDG_DATA_HOME/Larkspan/tracker.db"
 # Even as root: without the capability to override file modes.
 start_tracker setpriv --bounding-set=-dac_override,-dac_read_search
 for window in "$terminal" "$other" "$editor"; do
-    xdotool windowactivate --sync "$window"
-    sleep 2
+    switch_to "$window" 2
 done
 kill -0 "$tracker" || fail "the tracker stopped over a read-only database"
 # Writable again: the next closed session is stored without a restart, and nothing more is said.
 chmod 600 "$XDG_DATA_HOME/Larkspan/tracker.db"
-xdotool windowactivate --sync "$terminal"
-sleep 6
+switch_to "$terminal" 6
 xdotool windowactivate --sync "$other"
 recovered() { [ "$(db 'SELECT count(*) FROM activities WHERE app_name = '"'Shell'"' AND duration_seconds >= 5')" -gt 1 ]; }
 wait_until 5 recovered || fail "no row stored once the database took writes again: $(db 'SELECT app_name, duration_seconds FROM activities')"

@@ -14,10 +14,8 @@ xdotool windowactivate --sync "$first"
 launch
 wait_until 10 has_rows_above 0 || fail "no activity stored 10 s after launch"
 sleep 7
-xdotool windowactivate --sync "$second"
-sleep 7
-xdotool windowactivate --sync "$first"
-sleep 2
+switch_to "$second" 7
+switch_to "$first" 2
 
 open_dashboard
 a11y press "page tab" "Timeline"

@@ -25,10 +25,6 @@ xdotool windowactivate --sync "$editor"
 launch
 wait_until 10 has_rows_above 0 || fail "no activity stored 10 s after launch"
 
-switch_to() {
-    xdotool windowactivate --sync "$1"
-    sleep "$2"
-}
 switch_to "$editor" 8
 switch_to "$terminal" 8
 switch_to "$editor" 2   # too short to keep
