@@ -13,14 +13,12 @@ chmod 500 "$XDG_CONFIG_HOME"
 terminal=$(open_window kitty "~: tail -f build.log")
 xdotool windowactivate --sync "$terminal"
 
-"$larkspan" >"$e2e_root/larkspan.log" 2>&1 &
-tracker=$!
-e2e_pids+=("$tracker")
+launch
 # With no tray the dashboard stands in at launch; then the user goes back to the terminal.
 wait_until 10 xdotool search --onlyvisible --name '^Larkspan$' || fail "no dashboard without a tray"
 xdotool windowactivate --sync "$terminal"
-stored() { [ "$(db "SELECT count(*) FROM activities WHERE app_name = 'kitty'" 2>/dev/null || echo 0)" -gt 0 ]; }
-wait_until 10 stored || fail "nothing recorded without a bus or a tray"
+stored() { [ "$(db "SELECT count(*) FROM activities WHERE app_name = '$1'" 2>/dev/null || echo 0)" -gt 0 ]; }
+wait_until 10 stored kitty || fail "nothing recorded without a bus or a tray"
 # Closing the dashboard hides it; tracking goes on.
 xdotool windowactivate --sync "$(xdotool search --onlyvisible --name '^Larkspan$' | head -n 1)"
 xdotool key alt+F4
@@ -28,8 +26,7 @@ dashboard_gone() { ! xdotool search --onlyvisible --name '^Larkspan$'; }
 wait_until 10 dashboard_gone || fail "the dashboard did not close"
 ledger=$(open_window Ledger "March budget")
 xdotool windowactivate --sync "$ledger"
-stored_after_close() { [ "$(db "SELECT count(*) FROM activities WHERE app_name = 'Ledger'" 2>/dev/null || echo 0)" -gt 0 ]; }
-wait_until 10 stored_after_close || fail "closing the dashboard stopped tracking"
+wait_until 10 stored Ledger || fail "closing the dashboard stopped tracking"
 
 # A tray host that arrives late gets the icon; the missing tray was still reported only once.
 sleep 3

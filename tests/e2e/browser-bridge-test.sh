@@ -19,8 +19,7 @@ test -s "$XDG_CONFIG_HOME/chromium/NativeMessagingHosts/org.larkspan.browser_bri
     fail "no host manifest for Chromium"
 
 terminal=$(open_window Terminal "~: make")
-"$larkspan" >>"$e2e_root/larkspan.log" 2>&1 &
-e2e_pids+=("$!")
+launch
 wait_until 10 test -S "$XDG_RUNTIME_DIR/larkspan-browser-bridge" || fail "the tracker does not listen"
 
 background chromium --no-sandbox --user-data-dir="$XDG_CONFIG_HOME/chromium" --no-first-run \
@@ -43,11 +42,6 @@ sleep 11
 xdotool windowactivate --sync "$terminal"
 sleep 3
 
-check() {
-    local what=$1 expected=$2 actual
-    actual=$(db "$3")
-    [ "$actual" = "$expected" ] || fail "$what: expected '$expected', got '$actual'"
-}
 check "the pages of Chromium, in order" \
     "https://github.com/issues.html|github.com|larkspan/tracker: Issues|1|0.92
 https://www.youtube.com/watch.html|youtube.com|Rust tutorial for beginners - YouTube|4|0.58" \

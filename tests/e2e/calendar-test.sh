@@ -14,16 +14,13 @@ xdotool windowactivate --sync "$first"
 launch
 wait_until 10 has_rows_above 0 || fail "no activity stored 10 s after launch"
 for window in "$second" "$first" "$second"; do
-    xdotool windowactivate --sync "$window"
-    sleep 4
+    switch_to "$window" 4
 done
 tracked() { [ "$(db "SELECT COALESCE(SUM(duration_seconds), 0) FROM activities")" -gt 0 ]; }
 # A heartbeat (30 s after launch) writes the open row's duration at the latest.
 wait_until 35 tracked || fail "nothing tracked: $(db "SELECT app_name, duration_seconds FROM activities" | tr "\n" " ")"
 
-a11y tray activate
-a11y press "push button" "Open Dashboard"
-a11y has frame Larkspan
+open_dashboard
 a11y press "page tab" Calendar
 a11y has heading Calendar
 

@@ -8,10 +8,9 @@ e2e_pids=()
 
 fail() {
     echo "FAIL: $*" >&2
-    if [ -s "$e2e_root/larkspan.log" ]; then
-        echo "--- tracker output ---" >&2
-        tail -n 40 "$e2e_root/larkspan.log" >&2
-    fi
+    for log in sway larkspan; do
+        [ -s "$e2e_root/$log.log" ] && { echo "--- $log output ---" >&2; tail -n 40 "$e2e_root/$log.log" >&2; }
+    done
     exit 1
 }
 
@@ -31,22 +30,35 @@ background() {
     e2e_pids+=("$!")
 }
 
-. "$e2e_dir/wait-until.sh"
+# wait_until SECONDS COMMAND...: polls every 0.1 s until the command succeeds.
+wait_until() {
+    local deadline=$((SECONDS + $1))
+    shift
+    until "$@" >/dev/null 2>&1; do
+        [ "$SECONDS" -lt "$deadline" ] || return 1
+        sleep 0.1
+    done
+}
 
 # xprop succeeds also when the property is missing; a window manager names its check window.
 wm_running() {
     xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
 }
 
-# start_desktop [bare|accessible]: "bare" leaves out the session bus and the tray host; "accessible"
-# turns on the accessibility bus and takes a D-Bus tray host (StatusNotifierItem) in place of the
-# XEmbed one, so that a11y.py can drive the tracker as a screen reader and a panel do.
-start_desktop() {
+# The user's folders, all in the temporary directory.
+session_folders() {
     export HOME="$e2e_root/home" XDG_DATA_HOME="$e2e_root/data" XDG_CONFIG_HOME="$e2e_root/config"
     export XDG_RUNTIME_DIR="$e2e_root/runtime" XDG_CACHE_HOME="$e2e_root/cache"
     export XDG_DATA_DIRS=/usr/local/share:/usr/share
     mkdir -p "$HOME" "$XDG_DATA_HOME/applications" "$XDG_CONFIG_HOME" "$XDG_RUNTIME_DIR" "$XDG_CACHE_HOME"
     chmod 700 "$XDG_RUNTIME_DIR"
+}
+
+# start_desktop [bare|accessible]: "bare" leaves out the session bus and the tray host; "accessible"
+# turns on the accessibility bus and takes a D-Bus tray host (StatusNotifierItem) in place of the
+# XEmbed one, so that a11y.py can drive the tracker as a screen reader and a panel do.
+start_desktop() {
+    session_folders
     unset WAYLAND_DISPLAY XDG_SESSION_TYPE QT_QPA_PLATFORM QT_QUICK_BACKEND SESSION_MANAGER
 
     # Xvfb picks a free display number and writes it once it is ready.
@@ -123,3 +135,31 @@ launch() {
 }
 rows() { db "SELECT count(*) FROM activities" 2>/dev/null || echo 0; }
 has_rows_above() { [ "$(rows)" -gt "$1" ]; }
+# switch_to WINDOW SECONDS: the window in front for that long.
+switch_to() {
+    xdotool windowactivate --sync "$1"
+    sleep "$2"
+}
+# The tracker has exited (or is a zombie waiting to be reaped).
+tracker_ended() { ! kill -0 "$tracker" 2>/dev/null || grep -q '^State:.*Z' "/proc/$tracker/status"; }
+
+# check WHAT EXPECTED QUERY: the query's result is EXPECTED.
+check() {
+    local actual
+    actual=$(db "$3")
+    [ "$actual" = "$2" ] || fail "$1: expected '$2', got '$actual'"
+}
+
+# desktop_entry CLASS NAME: an application entry in the user's folder, found by its window class.
+desktop_entry() {
+    printf '[Desktop Entry]\nType=Application\nName=%s\nExec=%s\nStartupWMClass=%s\n' "$2" "${1,,}" "$1" \
+        >"$XDG_DATA_HOME/applications/${1,,}.desktop"
+}
+
+# The popover from the tray, then the dashboard from its button.
+open_dashboard() {
+    a11y tray activate
+    a11y has frame "Quick Summary"
+    a11y press "push button" "Open Dashboard"
+    a11y has frame Larkspan
+}

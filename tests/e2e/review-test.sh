@@ -8,20 +8,8 @@ larkspan=$1
 . "$(dirname "$0")/desktop-session.sh"
 
 start_desktop accessible
-a11y() { "$e2e_dir/accessibility/a11y.py" "$@" || fail "a11y $*"; }
 # The tray icon's tooltip: the status line with the pending count.
-tray_tooltip() {
-    /usr/bin/python3 - "$e2e_dir/accessibility" <<'PY'
-import sys
-import dbus
-sys.path.insert(0, sys.argv[1])
-import a11y
-bus, service = a11y.tray_item()
-tip = bus.get_object(service, "/StatusNotifierItem").Get(
-    "org.kde.StatusNotifierItem", "ToolTip", dbus_interface=dbus.PROPERTIES_IFACE)
-print(tip[2], tip[3])
-PY
-}
+tray_tooltip() { "$e2e_dir/accessibility/a11y.py" tray tooltip; }
 
 terminal=$(open_window kitty "~/src")
 mystery=$(open_window Mystery "what is this")

@@ -20,7 +20,6 @@ start_tracker() {
     xdotool windowactivate --sync "$editor"
     launch "$@"
 }
-stopped() { ! kill -0 "$tracker" 2>/dev/null || grep -q '^State:.*Z' "/proc/$tracker/status"; }
 last_row() { db "SELECT app_name, ifnull(end_time, 0) FROM activities ORDER BY id DESC LIMIT 1"; }
 ended_near() { awk -v e="${1#*|}" -v q="$2" 'BEGIN { exit !(e - q < 1 && q - e < 1) }'; }
 rows_of() { db "SELECT count(*) FROM activities WHERE app_name = '$1'"; }
@@ -28,8 +27,7 @@ rows_of() { db "SELECT count(*) FROM activities WHERE app_name = '$1'"; }
 # A frozen bus holds nothing up: the first row is stored within 2 s of launch.
 kill -STOP "$bus_pid"
 start_tracker
-any_row() { [ "$(db 'SELECT count(*) FROM activities' 2>/dev/null || echo 0)" -gt 0 ]; }
-wait_until 2 any_row || { kill -CONT "$bus_pid"; fail "no row 2 s after launch with a frozen bus"; }
+wait_until 2 has_rows_above 0 || { kill -CONT "$bus_pid"; fail "no row 2 s after launch with a frozen bus"; }
 kill -CONT "$bus_pid"
 [ "$(db 'SELECT window_title FROM activities LIMIT 1')" = "$hostile" ] || fail "the hostile title changed"
 modes=$(cd "$e2e_root" && stat -c '%a %n' data/Larkspan config/Larkspan data/Larkspan/tracker.db* config/Larkspan/*)
@@ -43,17 +41,16 @@ xdotool mousemove --window "$(tray_icon_window "$tracker")" 8 8 click 3
 sleep 0.5
 quit_at=$(date +%s.%N)
 xdotool key Up Return
-wait_until 10 stopped || fail "Quit Larkspan did not end the tracker"
+wait_until 10 tracker_ended || fail "Quit Larkspan did not end the tracker"
 ended_near "$(last_row)" "$quit_at" || fail "row not ended at the tray quit: $(last_row) vs $quit_at"
 
 # 2 s in another window, then SIGTERM: that row is gone.
 start_tracker
 second_row() { [ "$(rows_of Hostile)" -gt 1 ]; }
 wait_until 5 second_row || fail "no row after the relaunch"
-xdotool windowactivate --sync "$terminal"
-sleep 2
+switch_to "$terminal" 2
 kill -TERM "$tracker"
-wait_until 10 stopped || fail "SIGTERM did not end the tracker"
+wait_until 10 tracker_ended || fail "SIGTERM did not end the tracker"
 [ "$(rows_of Shell)" = 0 ] || fail "a 2 s session stayed after SIGTERM"
 [ "$(last_row | cut -d'|' -f1)" = Hostile ] || fail "the row before it did not end: $(last_row)"
 
@@ -62,29 +59,24 @@ start_tracker
 sleep 2
 (echo "BEGIN EXCLUSIVE; INSERT INTO daily_pomo_counts VALUES ('lock', 0);"; sleep 5; echo "COMMIT;") |
     db >/dev/null &
-xdotool windowactivate --sync "$terminal"
-sleep 6
-xdotool windowactivate --sync "$other"
-sleep 6
-xdotool windowactivate --sync "$editor"
-sleep 1
+switch_to "$terminal" 6
+switch_to "$other" 6
+switch_to "$editor" 1
 [ "$(rows_of Shell)$(rows_of Ledger)" = 11 ] || fail "switches lost to a lock: $(db 'SELECT app_name FROM activities')"
 
 # A database that cannot be written: said once, and tracking goes on.
 kill -TERM "$tracker"
-wait_until 10 stopped || fail "SIGTERM did not end the tracker"
+wait_until 10 tracker_ended || fail "SIGTERM did not end the tracker"
 chmod 444 "$XDG_DATA_HOME/Larkspan/tracker.db"
 # Even as root: without the capability to override file modes.
 start_tracker setpriv --bounding-set=-dac_override,-dac_read_search
 for window in "$terminal" "$other" "$editor"; do
-    xdotool windowactivate --sync "$window"
-    sleep 2
+    switch_to "$window" 2
 done
 kill -0 "$tracker" || fail "the tracker stopped over a read-only database"
 # Writable again: the next closed session is stored without a restart, and nothing more is said.
 chmod 600 "$XDG_DATA_HOME/Larkspan/tracker.db"
-xdotool windowactivate --sync "$terminal"
-sleep 6
+switch_to "$terminal" 6
 xdotool windowactivate --sync "$other"
 recovered() { [ "$(db 'SELECT count(*) FROM activities WHERE app_name = '"'Shell'"' AND duration_seconds >= 5')" -gt 1 ]; }
 wait_until 5 recovered || fail "no row stored once the database took writes again: $(db 'SELECT app_name, duration_seconds FROM activities')"

@@ -15,35 +15,15 @@ if [ "$(id -u)" -eq 0 ]; then
     exec runuser -u "$user" -- env -i PATH="$PATH" TMPDIR=/tmp KEEP_E2E="${KEEP_E2E:-}" bash "$0" "$larkspan"
 fi
 
-root=$(mktemp -d /tmp/larkspan-sway.XXXXXX)
-pids=()
-fail() {
-    echo "FAIL: $*" >&2
-    for log in sway larkspan; do
-        [ -s "$root/$log.log" ] && { echo "--- $log output ---" >&2; tail -n 30 "$root/$log.log" >&2; }
-    done
-    exit 1
-}
-stop_all() {
-    local pid
-    for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
-    wait 2>/dev/null || true
-    [ -n "${KEEP_E2E:-}" ] || rm -rf "$root"
-}
-trap stop_all EXIT
-. "$(dirname "$0")/wait-until.sh"
+. "$(dirname "$0")/desktop-session.sh"
+session_folders
 
-export HOME="$root/home" XDG_DATA_HOME="$root/data" XDG_CONFIG_HOME="$root/config"
-export XDG_RUNTIME_DIR="$root/runtime" XDG_CACHE_HOME="$root/cache" XDG_DATA_DIRS=/usr/local/share:/usr/share
-mkdir -p "$HOME" "$XDG_DATA_HOME/applications" "$XDG_CONFIG_HOME" "$XDG_RUNTIME_DIR" "$XDG_CACHE_HOME"
-chmod 700 "$XDG_RUNTIME_DIR"
-
-printf 'output HEADLESS-1 resolution 1280x800\n' >"$root/sway.conf"
+printf 'output HEADLESS-1 resolution 1280x800\n' >"$e2e_root/sway.conf"
 socket() { ls "$XDG_RUNTIME_DIR" | grep -E '^wayland-[0-9]+$' | head -n 1 | grep .; }
 start_sway() {
-    WLR_BACKENDS=headless WLR_RENDERER=pixman WLR_LIBINPUT_NO_DEVICES=1 sway -c "$root/sway.conf" >>"$root/sway.log" 2>&1 &
+    WLR_BACKENDS=headless WLR_RENDERER=pixman WLR_LIBINPUT_NO_DEVICES=1 sway -c "$e2e_root/sway.conf" >>"$e2e_root/sway.log" 2>&1 &
     sway=$!
-    pids+=("$sway")
+    e2e_pids+=("$sway")
     wait_until 15 socket || fail "sway did not start"
     export WAYLAND_DISPLAY=$(socket) XDG_SESSION_TYPE=wayland
     wait_until 5 ls "$XDG_RUNTIME_DIR"/sway-ipc.*.sock || fail "no sway IPC socket"
@@ -53,45 +33,33 @@ start_sway() {
 start_sway
 
 # The same desktop entries as on X11: the Wayland app id finds them by desktop id.
-printf '[Desktop Entry]\nType=Application\nName=Visual Studio Code\nExec=code\nStartupWMClass=Code\n' \
-    >"$XDG_DATA_HOME/applications/code.desktop"
-printf '[Desktop Entry]\nType=Application\nName=kitty\nExec=kitty\nStartupWMClass=kitty\n' \
-    >"$XDG_DATA_HOME/applications/kitty.desktop"
+desktop_entry Code "Visual Studio Code"
+desktop_entry kitty kitty
 
 editor_title="main.cpp — \"Larkspan\" 'tracker' 🚀"
-open_window() {
-    foot --app-id="$1" --title="$2" sleep 3600 >>"$root/sway.log" 2>&1 &
-    pids+=("$!")
+open_foot() {
+    foot --app-id="$1" --title="$2" sleep 3600 >>"$e2e_root/sway.log" 2>&1 &
+    e2e_pids+=("$!")
     mapped() { swaymsg -t get_tree | grep -q "\"app_id\": \"$1\""; }
     wait_until 10 mapped "$1" || fail "window $1 did not map"
 }
-open_window code "$editor_title"
-open_window kitty "~/src: make test"
+open_foot code "$editor_title"
+open_foot kitty "~/src: make test"
 focus() {
     swaymsg "[app_id=\"$1\"] focus" >/dev/null
     sleep "$2"
 }
 focus code 0
 
-db() { sqlite3 -batch -noheader "$XDG_DATA_HOME/Larkspan/tracker.db" "$@" 2>/dev/null; }
-rows() { db "SELECT count(*) FROM activities" || echo 0; }
-QT_QPA_PLATFORM=offscreen "$larkspan" >"$root/larkspan.log" 2>&1 &
-tracker=$!
-pids+=("$tracker")
+launch env QT_QPA_PLATFORM=offscreen
 launched=$SECONDS
-has_rows() { [ "$(rows)" -gt 0 ]; }
-wait_until 10 has_rows || fail "no activity stored 10 s after launch"
+wait_until 10 has_rows_above 0 || fail "no activity stored 10 s after launch"
 
 focus code 8
 focus kitty 8
 focus code 2    # too short to keep
 focus kitty 6
 
-check() {
-    local what=$1 expected=$2 actual
-    actual=$(db "$3")
-    [ "$actual" = "$expected" ] || fail "$what: expected '$expected', got '$actual'"
-}
 check "editor row (the 2-second visit left none)" "Visual Studio Code|com.microsoft.VSCode|1|$editor_title" \
     "SELECT app_name, bundle_id, category_id, window_title FROM activities WHERE bundle_id = 'com.microsoft.VSCode'"
 check "terminal rows" "2|kitty|net.kovidgoyal.kitty|2|~/src: make test" \
@@ -117,7 +85,7 @@ sleep 5
 spent=$(($(cpu_ticks) - before))
 [ "$spent" -le 50 ] || fail "the tracker spun while the compositor was gone: $spent ticks in 5 s"
 start_sway
-open_window code "$editor_title"
+open_foot code "$editor_title"
 focus code 0
 back() { [ "$(db "SELECT count(*) FROM activities WHERE bundle_id = 'com.microsoft.VSCode'")" = 2 ]; }
 wait_until 15 back || fail "no new row after the compositor came back"

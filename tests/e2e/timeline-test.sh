@@ -14,20 +14,15 @@ xdotool windowactivate --sync "$first"
 launch
 wait_until 10 has_rows_above 0 || fail "no activity stored 10 s after launch"
 sleep 7
-xdotool windowactivate --sync "$second"
-sleep 7
-xdotool windowactivate --sync "$first"
-sleep 2
+switch_to "$second" 7
+switch_to "$first" 2
 
-a11y tray activate
-a11y has frame "Quick Summary"
-a11y press "push button" "Open Dashboard"
-a11y has frame Larkspan
+open_dashboard
 a11y press "page tab" "Timeline"
 a11y has "push button" "Add manual activity"
 a11y press "push button" "List view"
 for title in "Timeline notes window" "Timeline shell window"; do
-    a11y has "list item" "~^$title, " || { a11y dump; fail "no row for '$title'"; }
+    a11y has "list item" "~^$title, "
 done
 
 a11y press "push button" "Add manual activity"
@@ -43,6 +38,5 @@ stored=$(db "SELECT app_name, window_title, is_manual, is_approved, category_id,
 a11y has "list item" "~^Reading: Clean Code, " || fail "the manual entry is not listed"
 
 a11y tray menu "Quit Larkspan"
-ended() { [ ! -d "/proc/$tracker" ] || grep -q '^State:.*Z' "/proc/$tracker/status"; }
-wait_until 10 ended || fail "Quit Larkspan did not end the tracker"
+wait_until 10 tracker_ended || fail "Quit Larkspan did not end the tracker"
 echo "timeline: ok"

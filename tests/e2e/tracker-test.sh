@@ -11,20 +11,8 @@ larkspan=$1
 start_desktop accessible
 
 # Two applications the tracker knows by their desktop entries.
-cat >"$XDG_DATA_HOME/applications/code.desktop" <<'ENTRY'
-[Desktop Entry]
-Type=Application
-Name=Visual Studio Code
-Exec=code
-StartupWMClass=Code
-ENTRY
-cat >"$XDG_DATA_HOME/applications/kitty.desktop" <<'ENTRY'
-[Desktop Entry]
-Type=Application
-Name=kitty
-Exec=kitty
-StartupWMClass=kitty
-ENTRY
+desktop_entry Code "Visual Studio Code"
+desktop_entry kitty kitty
 
 # A title with quotes, an emoji and 300 characters in all.
 editor_title=$(hostile_title "main.cpp — \"Larkspan\" 'tracker' 🚀 " 300)
@@ -37,19 +25,10 @@ xdotool windowactivate --sync "$editor"
 launch
 wait_until 10 has_rows_above 0 || fail "no activity stored 10 s after launch"
 
-switch_to() {
-    xdotool windowactivate --sync "$1"
-    sleep "$2"
-}
 switch_to "$editor" 8
 switch_to "$terminal" 8
 switch_to "$editor" 2   # too short to keep
 
-check() {
-    local what=$1 expected=$2 actual
-    actual=$(db "$3")
-    [ "$actual" = "$expected" ] || fail "$what: expected '$expected', got '$actual'"
-}
 # The unknown application, until a heartbeat (30 s after launch) has written its open row's end and
 # it is long enough to count as pending (30 s).
 switch_to "$mystery" 24
@@ -102,14 +81,15 @@ a11y tray activate
 a11y has frame "Quick Summary"
 a11y press "push button" "Start focus"
 a11y has "push button" "Pause focus"
-started=$("$e2e_dir/accessibility/a11y.py" text label "~^2[45]:[0-5][0-9]$")
+clock() { "$e2e_dir/accessibility/a11y.py" text label "~^2[45]:[0-5][0-9]$"; }
+started=$(clock)
 sleep 2
 a11y press "push button" "Pause focus"
 a11y has "push button" "Resume focus"
-paused=$("$e2e_dir/accessibility/a11y.py" text label "~^2[45]:[0-5][0-9]$")
+paused=$(clock)
 [ "$paused" != 25:00 ] && [ "$paused" != "$started" ] || fail "the timer did not run: $started then $paused"
 sleep 1.5
-[ "$("$e2e_dir/accessibility/a11y.py" text label "~^2[45]:[0-5][0-9]$")" = "$paused" ] || fail "the paused timer ran on"
+[ "$(clock)" = "$paused" ] || fail "the paused timer ran on"
 a11y press "push button" "Open Dashboard"
 a11y gone frame "Quick Summary"
 a11y has frame Larkspan
@@ -144,8 +124,7 @@ check "categories after restart" 21 "SELECT count(*) FROM categories"
 
 # Quit through the tray menu, as a panel offers it.
 a11y tray menu "Quit Larkspan"
-ended() { [ ! -d "/proc/$tracker" ] || grep -q '^State:.*Z' "/proc/$tracker/status"; }
-wait_until 10 ended || fail "Quit Larkspan did not end the tracker"
+wait_until 10 tracker_ended || fail "Quit Larkspan did not end the tracker"
 status=0
 wait "$tracker" || status=$?
 [ "$status" -eq 0 ] || fail "the tracker exited with status $status after Quit"

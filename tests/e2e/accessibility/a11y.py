@@ -6,10 +6,9 @@ and the tray icon's D-Bus interface, never through screen coordinates.
     a11y.py text ROLE NAME           print the element's text (its name, or its text contents)
     a11y.py has ROLE NAME [STATE]    succeed once the element shows (and has STATE: selected, checked...)
     a11y.py gone ROLE NAME           succeed once no such element shows
-    a11y.py type ROLE NAME TEXT      put TEXT into an editable field
-    a11y.py dump                     print the application's tree
     a11y.py tray activate            what a left click on the icon does
     a11y.py tray menu LABEL          choose LABEL in the icon's menu
+    a11y.py tray tooltip             print the icon's tooltip (title and text)
 
 NAME is matched exactly, or as a regular expression when it starts with "~". Every command waits up to
 A11Y_TIMEOUT seconds (default 10) for what it looks for; it fails with a short message otherwise.
@@ -60,13 +59,13 @@ def showing(node):
     return states.contains(pyatspi.STATE_SHOWING) and states.contains(pyatspi.STATE_VISIBLE)
 
 
-def walk(node, only_showing=True):
+def walk(node):
     """Depth first over the elements that show; a hidden element hides its subtree."""
-    if node is None or (only_showing and node.getRoleName() != "application" and not showing(node)):
+    if node is None or (node.getRoleName() != "application" and not showing(node)):
         return
     yield node
     for i in range(node.childCount):
-        yield from walk(node.getChildAtIndex(i), only_showing)
+        yield from walk(node.getChildAtIndex(i))
 
 
 def name_matches(node, name):
@@ -116,22 +115,6 @@ def has_state(node, state):
     return node.getState().contains(getattr(pyatspi, "STATE_" + state.upper()))
 
 
-def type_into(role, name, value):
-    node = poll(find(role, name), f"{role} '{name}'")
-    editable = node.queryEditableText()
-    editable.setTextContents(value)
-
-
-def dump():
-    app = poll(application, "the application on the accessibility bus")
-    for node in walk(app, only_showing=False):
-        depth, parent = 0, node.parent
-        while parent is not None and parent != app and depth < 40:
-            depth, parent = depth + 1, parent.parent
-        flags = [s for s in ("showing", "focusable", "focused", "selected", "checked") if has_state(node, s)]
-        print("  " * depth + f"[{node.getRoleName()}] {node.name!r} {action_names(node)} {flags}")
-
-
 # --- the tray icon, as a panel uses it ---------------------------------------------------------------
 
 def tray_item():
@@ -152,6 +135,10 @@ def tray(command, label=None):
     item = bus.get_object(service, "/StatusNotifierItem")
     if command == "activate":
         item.Activate(dbus.Int32(0), dbus.Int32(0), dbus_interface="org.kde.StatusNotifierItem")
+        return
+    if command == "tooltip":
+        tip = item.Get("org.kde.StatusNotifierItem", "ToolTip", dbus_interface=dbus.PROPERTIES_IFACE)
+        print(tip[2], tip[3])
         return
     menu_path = item.Get("org.kde.StatusNotifierItem", "Menu", dbus_interface=dbus.PROPERTIES_IFACE)
     menu = dbus.Interface(bus.get_object(service, menu_path), "com.canonical.dbusmenu")
@@ -177,17 +164,12 @@ def main(argv):
         print(text_of(poll(find(*args), f"{args[0]} '{args[1]}'")))
     elif command == "has" and len(args) in (2, 3):
         look = find(args[0], args[1])
-        poll(lambda: (lambda n: n if n and (len(args) == 2 or has_state(n, args[2])) else None)(look()),
-             " ".join(args))
+        poll(lambda: (n := look()) and (len(args) == 2 or has_state(n, args[2])), " ".join(args))
     elif command == "gone" and len(args) == 2:
         look = find(*args)
         poll(lambda: look() is None, f"{args[0]} '{args[1]}' to go")
-    elif command == "type" and len(args) == 3:
-        type_into(*args)
-    elif command == "dump" and not args:
-        dump()
-    elif command == "tray" and args[:1] == ["activate"]:
-        tray("activate")
+    elif command == "tray" and args in (["activate"], ["tooltip"]):
+        tray(args[0])
     elif command == "tray" and len(args) == 2 and args[0] == "menu":
         tray("menu", args[1])
     else:

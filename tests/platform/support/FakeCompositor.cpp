@@ -1,13 +1,12 @@
 #include "FakeCompositor.h"
 
-#include <sys/eventfd.h>
+#include <poll.h>
 #include <sys/socket.h>
 #include <sys/un.h>
-#include <unistd.h>
 #include <wayland-server.h>
 
+#include <atomic>
 #include <cstring>
-#include <future>
 #include <map>
 #include <mutex>
 #include <thread>
@@ -40,27 +39,17 @@ struct FakeCompositor::State {
     TempDir folder;
     std::string socketPath = (folder / "wayland-0").string();
     wl_display* display = wl_display_create();
-    int wake = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
-    std::mutex mutex;  // guards tasks
-    std::vector<std::function<void()>> tasks;
-    bool stopping = false;
+    std::mutex mutex;  // the display is not thread-safe: its thread and the test take turns
+    std::atomic<bool> stopping = false;
     std::vector<wl_resource*> managers, idleNotifications;
     std::map<int, wl_resource*> windows;
     int idleTimeoutMs = 0;
     std::thread thread;
 
-    void run(std::function<void()> task) {
-        std::promise<void> done;
-        {
-            std::lock_guard lock(mutex);
-            tasks.push_back([&] {
-                task();
-                done.set_value();
-            });
-        }
-        const std::uint64_t one = 1;
-        (void)write(wake, &one, sizeof one);
-        done.get_future().wait();
+    void run(const std::function<void()>& task) {
+        std::lock_guard lock(mutex);
+        task();
+        wl_display_flush_clients(display);
     }
 };
 
@@ -112,36 +101,21 @@ FakeCompositor::FakeCompositor(Offer offer) : state_(std::make_unique<State>()) 
                          });
     }
 
-    wl_event_loop_add_fd(
-        wl_display_get_event_loop(s.display), s.wake, WL_EVENT_READABLE,
-        [](int fd, uint32_t, void* data) {
-            auto& state = *static_cast<State*>(data);
-            std::uint64_t count;
-            (void)read(fd, &count, sizeof count);
-            std::vector<std::function<void()>> tasks;
-            {
-                std::lock_guard lock(state.mutex);
-                tasks.swap(state.tasks);
-            }
-            for (auto& task : tasks)
-                task();
-            return 0;
-        },
-        &s);
     s.thread = std::thread([&s] {
+        auto* loop = wl_display_get_event_loop(s.display);
+        pollfd ready{wl_event_loop_get_fd(loop), POLLIN, 0};
         while (!s.stopping) {
-            wl_display_flush_clients(s.display);
-            wl_event_loop_dispatch(wl_display_get_event_loop(s.display), -1);
+            s.run([&] { wl_event_loop_dispatch(loop, 0); });
+            poll(&ready, 1, 10);
         }
     });
 }
 
 FakeCompositor::~FakeCompositor() {
-    state_->run([this] { state_->stopping = true; });
+    state_->stopping = true;
     state_->thread.join();
     wl_display_destroy_clients(state_->display);
     wl_display_destroy(state_->display);
-    close(state_->wake);
 }
 
 const std::string& FakeCompositor::display() const {

@@ -87,8 +87,8 @@ XvfbDisplay::~XvfbDisplay() {
 
 // Xvfb on `display`, then openbox.
 bool XvfbDisplay::start(const std::string& display) {
-    std::vector<std::string> argv = {"Xvfb",      "-displayfd", "1", "-nolisten",  "tcp",
-                                     "-noreset",  "-screen",    "0", "1280x800x24"};
+    std::vector<std::string> argv = {"Xvfb",     "-displayfd", "1", "-nolisten",  "tcp",
+                                     "-noreset", "-screen",    "0", "1280x800x24"};
     argv.insert(argv.begin() + 1, display);
     if (!options_.screenSaverExtension)
         argv.insert(argv.end(), {"-extension", "MIT-SCREEN-SAVER"});
@@ -151,19 +151,13 @@ std::string XvfbDisplay::run(const std::vector<std::string>& argv, std::chrono::
 
 std::vector<std::string> XvfbDisplay::windowsOfClass(const std::string& wmClass,
                                                      std::chrono::milliseconds timeout) {
+    std::stringstream lines(
+        run({"xdotool", "search", "--sync", "--onlyvisible", "--class", "^" + wmClass + "$"}, timeout));
     std::vector<std::string> ids;
-    waitUntil(
-        [&] {
-            std::stringstream lines(
-                run({"xdotool", "search", "--onlyvisible", "--class", "^" + wmClass + "$"}, 1000ms));
-            ids.clear();
-            for (std::string line; std::getline(lines, line);) {
-                if (!line.empty())
-                    ids.push_back(line);
-            }
-            return !ids.empty();
-        },
-        timeout);
+    for (std::string line; std::getline(lines, line);) {
+        if (!line.empty())
+            ids.push_back(line);
+    }
     return ids;
 }
 
