@@ -36,17 +36,12 @@ TEST(CategoryFigures, EightLongestWithFractionsOfEveryCategory) {
     EXPECT_EQ(figures[0].name, "Other");
     EXPECT_EQ(figures[1].icon, catMap.at(7).icon);
     EXPECT_EQ(figures[1].color, Color::fromHex(catMap.at(7).colorHex));
-}
 
-TEST(CategoryFigures, UnknownIdKeepsItsOwnRowAsOther) {
-    const auto figures = categoryFigures({record("App", 60, 99), record("App", 0, 1)}, categoriesByID({}));
-    ASSERT_EQ(figures.size(), 2u);
-    EXPECT_EQ(figures[0].categoryID, 99);
-    EXPECT_EQ(figures[0].name, "Other");
-    EXPECT_EQ(figures[0].icon, "❓");
-    EXPECT_EQ(figures[0].color, Color::fromHex("#8E8E93"));
-    EXPECT_EQ(figures[0].fraction, 1.0);
-    EXPECT_EQ(figures[1].fraction, 0.0);
+    // An unknown id keeps its own row, as Other.
+    const auto unknown = categoryFigures({record("App", 60, 99), record("App", 0, 1)}, categoriesByID({}));
+    ASSERT_EQ(unknown.size(), 2u);
+    EXPECT_EQ(unknown[0], (CategoryFigure{99, 60, 1.0, "Other", "❓", Color::fromHex("#8E8E93")}));
+    EXPECT_EQ(unknown[1].fraction, 0.0);
     EXPECT_TRUE(categoryFigures({}, categoriesByID({})).empty());
 }
 

@@ -45,7 +45,7 @@ TEST(PeriodTotals, ProductiveOnlyForKnownProductiveCategories) {
     EXPECT_EQ(productivityScore({-10, 5}), 0);
 }
 
-TEST(UniqueDays, CountsLocalDaysOfTheStarts) {
+TEST(LocalDays, CountedAndGroupedByTheLocalDayOfTheStart) {
     ScopedTimeZone zone{"Asia/Kolkata"};
     EXPECT_EQ(uniqueDays({}), 0);
     // The 23:30 record runs into the 2nd but counts on the 1st; records out of order still count once.
@@ -53,14 +53,12 @@ TEST(UniqueDays, CountsLocalDaysOfTheStarts) {
         record(localInstant(2026, 5, 1, 23, 30), 7200), record(localInstant(2026, 5, 3, 0, 0), 60),
         record(localInstant(2026, 5, 1, 8), 60), record(localInstant(2026, 5, 3, 23, 59, 59), 60)};
     EXPECT_EQ(uniqueDays(records), 2);
-}
 
-TEST(GroupByDay, KeysAreLocalMonthAndDayInRecordOrder) {
-    ScopedTimeZone zone{"Asia/Kolkata"};
-    const std::vector<ActivityTotal> records = {
+    // Days are grouped under their local month and day, in record order.
+    const std::vector<ActivityTotal> grouped = {
         record(localInstant(2026, 5, 1, 23, 59), 1), record(localInstant(2026, 5, 2, 0, 0), 2),
         record(localInstant(2026, 5, 1, 6), 3), record(localInstant(2025, 5, 2, 12), 4)};
-    const DayGroups groups = groupByDay(records);
+    const DayGroups groups = groupByDay(grouped);
     ASSERT_EQ(groups.size(), 2u);
     std::vector<std::int64_t> first;
     for (const ActivityTotal* r : groups.at("05/01"))

@@ -66,41 +66,6 @@ TEST_F(AnalyticsLoad, WeekKeepsRecordsOverFiveSecondsButCountsEveryWebsiteSecond
     EXPECT_EQ(data.topDomains.back(), (DomainTotal{"site2.example", 20}));
 }
 
-TEST_F(AnalyticsLoad, PomodorosOfWholeLocalDaysAndOfThePastDayAlone) {
-    pomodoros(localInstant(2026, 11, 10, 20), 8);  // before the week's oldest day
-    pomodoros(localInstant(2026, 11, 11, 8), 2);   // the oldest day, hours before the window opens
-    pomodoros(localInstant(2026, 11, 12, 8), 3);
-    pomodoros(localInstant(2026, 11, 18, 9), 1);
-
-    EXPECT_EQ(load(db, TimeRange::week, now, now).totalPomos, 6);
-    EXPECT_EQ(load(db, TimeRange::today, localInstant(2026, 11, 12, 12), now).totalPomos, 1);
-    // A past day ends at the next midnight, which the next day's count must not join.
-    EXPECT_EQ(load(db, TimeRange::day, localInstant(2026, 11, 11, 12), now).totalPomos, 2);
-    EXPECT_EQ(load(db, TimeRange::month, now, now).totalPomos, 14);
-}
-
-TEST_F(AnalyticsLoad, DayRunsFromItsMidnightToTheNextOrToNow) {
-    // 1 November 2026 is 25 hours long in New York: the clocks go back at 02:00.
-    const Date fallBack = localInstant(2026, 11, 1);
-    const Date nextMidnight = localInstant(2026, 11, 2);
-    ASSERT_EQ(nextMidnight - fallBack, 25 * 3600.0);
-    add(fallBack - 1, 11);
-    add(fallBack, 12);
-    add(fallBack + 24.5 * 3600, 13);  // 23:30 on the wall clock
-    add(nextMidnight, 14);            // the period is closed at both ends
-    add(nextMidnight + 1, 15);
-    EXPECT_EQ(durations(load(db, TimeRange::day, fallBack + 12 * 3600, now)),
-              (std::vector<std::int64_t>{12, 13, 14}));
-
-    // Today, and a day stepped to today, stop at the present moment.
-    const Date todayMidnight = localInstant(2026, 11, 18);
-    add(todayMidnight, 21);
-    add(now - 1, 22);
-    add(now + 60, 23);
-    EXPECT_EQ(durations(load(db, TimeRange::today, fallBack, now)), (std::vector<std::int64_t>{21, 22}));
-    EXPECT_EQ(durations(load(db, TimeRange::day, now, now)), (std::vector<std::int64_t>{21, 22}));
-}
-
 TEST_F(AnalyticsLoad, StoreThatFailsGivesAnEmptyPeriod) {
     add(now - 600, 300, "site.example");
     pomodoros(now, 2);

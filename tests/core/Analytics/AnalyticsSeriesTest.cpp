@@ -26,13 +26,9 @@ TEST(HourlyProductiveMinutes, AveragesOverDaysWithAnyRecord) {
     EXPECT_EQ(hourlyProductiveMinutes(records, seededMap()), (HourlyMinutes{{9, 20.0}}));
     // No records at all: nothing to average, and no division by zero.
     EXPECT_TRUE(hourlyProductiveMinutes({}, seededMap()).empty());
-}
-
-TEST(HourlyProductiveMinutes, LongActivityCountsWhollyInItsFirstHour) {
-    ScopedTimeZone zone{"Europe/Berlin"};
-    const auto minutes =
-        hourlyProductiveMinutes({record(localInstant(2026, 6, 1, 8, 30), 5 * 3600)}, seededMap());
-    EXPECT_EQ(minutes, (HourlyMinutes{{8, 300.0}}));
+    // A long activity counts wholly in its first hour.
+    EXPECT_EQ(hourlyProductiveMinutes({record(localInstant(2026, 6, 1, 8, 30), 5 * 3600)}, seededMap()),
+              (HourlyMinutes{{8, 300.0}}));
 }
 
 TEST(HourlyProductiveMinutes, HoursOfAClockChangeDayAreLocalHours) {
@@ -54,11 +50,8 @@ TEST(HourlyChart, ColumnsForSixToTwentyThreeScaledToTheLargest) {
     EXPECT_EQ(columns.front().label, "6a");
     EXPECT_EQ(columns.back().label, "11p");
     // Hour 3 is left out of the chart, so 9 is the largest column.
-    EXPECT_EQ(columns[3].hour, 9);
-    EXPECT_DOUBLE_EQ(columns[3].height, 110);
-    EXPECT_DOUBLE_EQ(columns[3].opacity, 0.9);
-    EXPECT_DOUBLE_EQ(columns[4].height, 27.5);
-    EXPECT_DOUBLE_EQ(columns[4].intensity, 0.25);
+    EXPECT_EQ(columns[3], (HourlyColumn{9, "9a", 40, 110, 1, 0.2 + 0.7}));  // opacity 0.2 + 0.7 × intensity
+    EXPECT_EQ(columns[4], (HourlyColumn{10, "10a", 10, 27.5, 0.25, 0.2 + 0.7 * 0.25}));
     EXPECT_DOUBLE_EQ(columns[14].height, 2);  // 1.375 points, raised to the minimum
     EXPECT_DOUBLE_EQ(columns[0].opacity, 0.2);
 
@@ -91,19 +84,12 @@ TEST(DailySeries, BarsScaleToTheLongestDayWithTheirProductivePart) {
         record(localInstant(2026, 3, 11, 8), 0),
     };
     const auto bars = dailySeries(records, seededMap(), 130);
-    ASSERT_EQ(bars.size(), 4u);  // the 8th has no records and leaves no gap
-    EXPECT_EQ(bars[0].key, "03/07");
-    EXPECT_EQ(bars[0].label, "07");
-    EXPECT_EQ(bars[0].totalSeconds, 4000);
-    EXPECT_EQ(bars[0].productiveSeconds, 3000);
-    EXPECT_DOUBLE_EQ(bars[0].height, 130);
-    EXPECT_DOUBLE_EQ(bars[0].productiveHeight, 97.5);
-    EXPECT_DOUBLE_EQ(bars[1].height, 65);
-    EXPECT_DOUBLE_EQ(bars[1].productiveHeight, 0);
-    EXPECT_DOUBLE_EQ(bars[2].height, 2);  // 0.325 points, raised to the minimum
-    EXPECT_DOUBLE_EQ(bars[2].productiveHeight, 2);
-    EXPECT_DOUBLE_EQ(bars[3].height, 2);  // an empty day: no share, no division by zero
-    EXPECT_DOUBLE_EQ(bars[3].productiveHeight, 0);
+    // The 8th has no records and leaves no gap; the 10th's 0.325 points are raised to the minimum; an
+    // empty day has no share and divides nothing by zero.
+    EXPECT_EQ(bars, (std::vector<DailyBar>{{"03/07", "07", 4000, 3000, 130, 97.5},
+                                           {"03/09", "09", 2000, 0, 65, 0},
+                                           {"03/10", "10", 10, 10, 2, 2},
+                                           {"03/11", "11", 0, 0, 2, 0}}));
     EXPECT_TRUE(dailySeries({}, seededMap(), 130).empty());
 }
 

@@ -42,17 +42,6 @@ TEST(LocalDayCache, AgreesWithTheZoneAcrossAYearOfClockChanges) {
     }
 }
 
-TEST(LocalDayCache, HoursOfTheSpringForwardDay) {
-    ScopedTimeZone zone{"America/New_York"};
-    LocalDayCache cache;
-    // 8 March 2026 has no 02:00 hour: 01:59:59 is followed by 03:00:00.
-    const Date midnight = localInstant(2026, 3, 8);
-    EXPECT_EQ(cache.hourOf(midnight + 1.5 * 3600), 1);
-    EXPECT_EQ(cache.hourOf(midnight + 2 * 3600), 3);
-    EXPECT_EQ(cache.hourOf(midnight + 22 * 3600 + 0.5), 23);
-    EXPECT_EQ(cache.dayOf(midnight + 23 * 3600), (LocalDay{2026, 3, 9}));
-}
-
 TEST(LocalDayCache, InstantsThatAreNoTimeDoNotBreakIt) {
     ScopedTimeZone zone{"UTC"};
     LocalDayCache cache;

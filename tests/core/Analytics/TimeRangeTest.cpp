@@ -16,7 +16,7 @@ LocalDay dayOf(Date instant) {
     return LocalDayCache().dayOf(instant);
 }
 
-TEST(TimeRange, PeriodsAndPomodoroDaysOfEveryRange) {
+TEST(TimeRange, PeriodsAndPomodoroDaysOfEveryRangeAndClockChangeDays) {
     ScopedTimeZone zone{"America/New_York"};
     // Wednesday 18 November 2026, 15:00; summer time ended on 1 November.
     const Date now = localInstant(2026, 11, 18, 15);
@@ -54,11 +54,6 @@ TEST(TimeRange, PeriodsAndPomodoroDaysOfEveryRange) {
         EXPECT_EQ(dayOf(pomodoros.from), c.firstPomodoroDay);
         EXPECT_EQ(dayOf(pomodoros.to), c.lastPomodoroDay);
     }
-}
-
-TEST(TimeRange, DayOfAClockChangeHasItsTrueLength) {
-    ScopedTimeZone zone{"America/New_York"};
-    const Date now = localInstant(2026, 11, 18, 15);
     // Clocks went forward at 02:00 on 8 March 2026 and back at 02:00 on 1 November.
     const DateInterval spring = dateRange(TimeRange::day, localInstant(2026, 3, 8, 12), now);
     EXPECT_EQ(spring.from, localInstant(2026, 3, 8));

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "ActivityBuilder.h"
 #include "Data/Database.h"
 #include "TempDir.h"
 
@@ -9,18 +10,14 @@ namespace {
 using test::TempDir;
 
 ActivityRecord activity(Date start, std::int64_t duration, bool needsApproval = false) {
-    ActivityRecord record;
-    record.appName = "Firefox";
-    record.bundleID = "org.mozilla.firefox";
-    record.windowTitle = "Docs";
+    ActivityRecord record = test::ActivityBuilder(0, start, duration)
+                                .app("Firefox", "org.mozilla.firefox")
+                                .title("Docs")
+                                .domain("example.org")
+                                .category(4);
     record.url = "https://example.org/a";
-    record.urlDomain = "example.org";
-    record.categoryID = 4;
     record.confidence = 0.4;
     record.needsApproval = needsApproval;
-    record.startTime = start;
-    record.endTime = start + static_cast<double>(duration);
-    record.durationSeconds = duration;
     return record;
 }
 

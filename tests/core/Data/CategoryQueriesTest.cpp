@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "ActivityBuilder.h"
 #include "Data/Database.h"
 #include "SqliteFile.h"
 #include "TempDir.h"
@@ -13,10 +14,7 @@ using test::TempDir;
 class CategoryQueries : public ::testing::Test {
 protected:
     std::int64_t addActivity(std::int64_t category) {
-        ActivityRecord record;
-        record.appName = "App";
-        record.categoryID = category;
-        return db.insertActivity(record);
+        return db.insertActivity(test::ActivityBuilder(0, 0, 0).category(category));
     }
 
     TempDir dir;
@@ -65,7 +63,7 @@ TEST_F(CategoryQueries, InsertAndUpdateWriteOnlyTheirColumns) {
     EXPECT_THROW(db.updateCategory(changed), DBError);
 }
 
-TEST_F(CategoryQueries, DeletingMovesActivitiesToOtherAndDropsTheCategorysRules) {
+TEST_F(CategoryQueries, DeletingMovesActivitiesToOtherAndDropsRulesButNeverOtherAndUndoesAFailure) {
     const auto activity = addActivity(16);
     const auto untouched = addActivity(4);
     db.saveLearnedRule("domain", "video.example", 16);
@@ -76,27 +74,26 @@ TEST_F(CategoryQueries, DeletingMovesActivitiesToOtherAndDropsTheCategorysRules)
     EXPECT_EQ(db.fetchActivity(untouched)->categoryID, 4);
     EXPECT_EQ(db.fetchLearnedRules(), (std::vector<LearnedRule>{{"domain", "docs.example", 4}}));
     EXPECT_EQ(db.fetchCategories().size(), 20u);
-}
 
-TEST_F(CategoryQueries, OtherCannotBeDeletedAndAFailedDeleteChangesNothing) {
-    const auto inOther = addActivity(21);
+    // Other cannot be deleted.
     db.deleteCategory(21);
-    EXPECT_EQ(db.fetchCategories(), Category::seeded());
-    EXPECT_EQ(db.fetchActivity(inOther)->categoryID, 21);
+    EXPECT_EQ(db.fetchCategories().size(), 20u);
+    EXPECT_EQ(db.fetchActivity(activity)->categoryID, 21);
 
     // A child category still points at 10, so its DELETE fails after the rules and activities
     // statements already ran: all three must be undone.
     db.insertCategory(Category{0, "Papers", "#000000", "x", Productivity::productive, 10, false, 30});
-    const auto activity = addActivity(10);
+    const auto papers = addActivity(10);
     db.saveLearnedRule("domain", "arxiv.org", 10);
     EXPECT_THROW(db.deleteCategory(10), DBError);
-    EXPECT_EQ(db.fetchActivity(activity)->categoryID, 10);
-    EXPECT_EQ(db.fetchLearnedRules(), (std::vector<LearnedRule>{{"domain", "arxiv.org", 10}}));
-    EXPECT_EQ(db.fetchCategories().size(), 22u);
+    EXPECT_EQ(db.fetchActivity(papers)->categoryID, 10);
+    EXPECT_EQ(db.fetchLearnedRules(),
+              (std::vector<LearnedRule>{{"domain", "docs.example", 4}, {"domain", "arxiv.org", 10}}));
+    EXPECT_EQ(db.fetchCategories().size(), 21u);
     // The connection is out of the transaction: later writes commit by themselves.
-    db.deleteActivity(activity);
+    db.deleteActivity(papers);
     EXPECT_EQ(SqliteFile(dir / "tracker.db")
-                  .integer("SELECT COUNT(*) FROM activities WHERE id=" + std::to_string(activity)),
+                  .integer("SELECT COUNT(*) FROM activities WHERE id=" + std::to_string(papers)),
               0);
 }
 

@@ -92,30 +92,25 @@ TEST_F(DatabaseStartup, UnopenableOrDamagedStoresEndWithTheFatalMessage) {
     std::filesystem::create_directories(folderAsFile / "Larkspan" / "tracker.db");
     expectFatal(runOpenStore(dir, {"XDG_DATA_HOME=" + folderAsFile.string()}));
 
-    // A read-only data folder: "Larkspan" cannot be made.
-    const auto readOnly = dir / "read-only";
-    std::filesystem::create_directories(readOnly);
-    std::filesystem::permissions(readOnly, std::filesystem::perms(0555));
-    expectFatal(runOpenStore(dir, {"XDG_DATA_HOME=" + readOnly.string()}));
-
-    // A read-only "Larkspan" folder: tracker.db cannot be created.
-    const auto readOnlyStore = dir / "read-only-store";
-    std::filesystem::create_directories(readOnlyStore / "Larkspan");
-    std::filesystem::permissions(readOnlyStore / "Larkspan", std::filesystem::perms(0555));
-    expectFatal(runOpenStore(dir, {"XDG_DATA_HOME=" + readOnlyStore.string()}));
+    // A read-only data folder, where "Larkspan" cannot be made, and a read-only "Larkspan" folder,
+    // where tracker.db cannot be created.
+    for (const std::string inner : {"", "Larkspan"}) {
+        const auto readOnly = dir / ("read-only-" + inner);
+        std::filesystem::create_directories(readOnly / inner);
+        std::filesystem::permissions(readOnly / inner, std::filesystem::perms(0555));
+        expectFatal(runOpenStore(dir, {"XDG_DATA_HOME=" + readOnly.string()}));
+    }
 
     // A damaged file of random bytes.
-    const auto damaged = writableFolder("damaged");
-    std::filesystem::create_directories(damaged / "Larkspan");
-    std::filesystem::permissions(damaged / "Larkspan", std::filesystem::perms(0777));
+    const auto damaged = writableFolder("damaged/Larkspan");
     {
         std::mt19937 random(42);
-        std::ofstream file(damaged / "Larkspan" / "tracker.db", std::ios::binary);
+        std::ofstream file(damaged / "tracker.db", std::ios::binary);
         for (int i = 0; i < 256 * 1024; ++i)
             file.put(static_cast<char>(random()));
     }
-    std::filesystem::permissions(damaged / "Larkspan" / "tracker.db", std::filesystem::perms(0666));
-    const Outcome noise = runOpenStore(dir, {"XDG_DATA_HOME=" + damaged.string()});
+    std::filesystem::permissions(damaged / "tracker.db", std::filesystem::perms(0666));
+    const Outcome noise = runOpenStore(dir, {"XDG_DATA_HOME=" + (dir / "damaged").string()});
     expectFatal(noise);
     EXPECT_NE(noise.err.find("file is not a database"), std::string::npos) << noise.err;
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "ActivityBuilder.h"
 #include "Data/Database.h"
 #include "ScopedTimeZone.h"
 #include "SqliteFile.h"
@@ -14,12 +15,7 @@ using test::TempDir;
 class Summaries : public ::testing::Test {
 protected:
     void add(Date start, std::int64_t seconds, std::optional<std::int64_t> category) {
-        ActivityRecord record;
-        record.appName = "App";
-        record.categoryID = category;
-        record.startTime = start;
-        record.durationSeconds = seconds;
-        db.insertActivity(record);
+        db.insertActivity(test::ActivityBuilder(0, start, seconds).category(category));
     }
 
     ScopedTimeZone zone{"America/New_York"};
@@ -55,12 +51,10 @@ TEST_F(Summaries, ClockChangeDayHasItsRealLengthAndBothMidnightsCount) {
               (std::map<std::int64_t, std::int64_t>{{1, 60}, {12, 5}, {16, 30}, {21, 7200}, {404, 20}}));
     EXPECT_DOUBLE_EQ(day.productivityRatio(), 60.0 / 7315.0);
     EXPECT_EQ(db.daySummary(kMarch11Midnight).totalSeconds, 1005);
-}
-
-TEST_F(Summaries, EmptyDayIsAllZero) {
-    const DaySummary day = db.daySummary(kMarch10Midnight);
-    EXPECT_EQ(day, (DaySummary{kMarch10Midnight, 0, 0, {}}));
-    EXPECT_EQ(day.productivityRatio(), 0);
+    // An empty day, a week earlier, is all zero.
+    const Date weekEarlier = kMarch10Midnight - 7 * 86400;
+    EXPECT_EQ(db.daySummary(weekEarlier), (DaySummary{weekEarlier, 0, 0, {}}));
+    EXPECT_EQ(DaySummary{}.productivityRatio(), 0);
 }
 
 TEST_F(Summaries, MonthHasOneSummaryPerLocalDay) {

@@ -58,13 +58,8 @@ TEST(TimelineBlocks, AnyOtherResourceBetweenTwoVisitsKeepsThemApart) {
     EXPECT_EQ(groupSizes(computeBlocks(day, 60, true)), (std::vector<std::size_t>{2}));
     // Without the switch nothing is merged at all.
     EXPECT_EQ(groupSizes(computeBlocks(day, 60, false)), (std::vector<std::size_t>{1, 1}));
-}
-
-TEST(TimelineBlocks, DurationFilterKeepsItsBound) {
-    const std::vector<ActivityRecord> day = {ActivityBuilder(1, kNine, 59),
-                                             ActivityBuilder(2, kNine + 100, 60)};
-    EXPECT_EQ(computeBlocks(day, 60, true).at(0).id(), 2);
-    EXPECT_TRUE(computeChapters(day, 300, true).empty());
+    // Chapters filter too.
+    EXPECT_TRUE(computeChapters(day, 61, true).empty());
 }
 
 TEST(TimelineBlocks, OpenActivityEndsAtStartPlusDuration) {
@@ -159,6 +154,11 @@ TEST(TimelineChapters, AwaySpansSplitOnlyFromTheirThresholdInEachRegime) {
             EXPECT_EQ(isIdleChapter(chapters[i]), chapters.size() == 3 && i == 1) << i;
         }
     }
+    // An away span at the start of the day makes no empty chapter before it.
+    const std::vector<TimelineChapter> chapters =
+        computeChapters({ActivityBuilder::away(1, kNine, 600), ActivityBuilder(2, kNine + 600, 60)}, 0, true);
+    ASSERT_EQ(groupSizes(chapters), (std::vector<std::size_t>{1, 1}));
+    EXPECT_TRUE(isIdleChapter(chapters[0]));
 }
 
 TEST(TimelineChapters, PausesCloseAboveTheGapAndDroppedAwayTimeCountsTowardIt) {
@@ -176,14 +176,6 @@ TEST(TimelineChapters, PausesCloseAboveTheGapAndDroppedAwayTimeCountsTowardIt) {
                                                   ActivityBuilder::away(2, kNine + 60, 599),
                                                   ActivityBuilder(3, kNine + 60 + 1201, 60)};
     EXPECT_EQ(groupSizes(computeChapters(withAway, 0, true)), (std::vector<std::size_t>{1, 1}));
-}
-
-TEST(TimelineChapters, AwaySpanAtTheStartOfTheDayMakesNoEmptyChapter) {
-    const std::vector<ActivityRecord> day = {ActivityBuilder::away(1, kNine, 600),
-                                             ActivityBuilder(2, kNine + 600, 60)};
-    const std::vector<TimelineChapter> chapters = computeChapters(day, 0, true);
-    ASSERT_EQ(groupSizes(chapters), (std::vector<std::size_t>{1, 1}));
-    EXPECT_TRUE(isIdleChapter(chapters[0]));
 }
 
 TEST(TimelineChapters, DerivedValuesAndTheTieRule) {
@@ -216,10 +208,8 @@ TEST(TimelineLabels, FormatDurationAtEachBoundary) {
 }
 
 TEST(TimelineLabels, ChapterLinesNameVisitsAndTheDominantCategory) {
-    Category coding;
-    coding.id = 5;
-    coding.name = "Coding";
-    const std::vector<Category> categories = {coding};
+    const std::vector<Category> categories = {
+        {5, "Coding", "#34C759", "x", Productivity::productive, std::nullopt, true, 1}};
     const TimelineChapter merged = makeChapter({ActivityBuilder(1, kNine, 10).category(5).title("main.cpp"),
                                                 ActivityBuilder(2, kNine + 400, 10).category(5),
                                                 ActivityBuilder(3, kNine + 890, 10).category(5)});

@@ -18,7 +18,7 @@ std::string clockText(Date instant) {
     return text;
 }
 
-TEST(TimelineScreenTest, DurationsOfRowsAndSheets) {
+TEST(TimelineScreenTest, DurationsMarksAndSubtitlesOfRowsAndSheets) {
     struct Case {
         std::int64_t seconds;
         const char* row;
@@ -31,9 +31,7 @@ TEST(TimelineScreenTest, DurationsOfRowsAndSheets) {
     }
     DaySummary day{0, 3000, 1999, {}};
     EXPECT_EQ(summaryText(day), "50m 0s tracked \u00B7 66% productive");
-}
 
-TEST(TimelineScreenTest, RowMarksAndSubtitles) {
     const Category coding = Category::seeded()[0];
     ActivityRecord tracked = ActivityBuilder(1, 0, 10).app("Code").title("main.cpp");
     ActivityRecord manual = ActivityRecord::manual(0, 60, coding.id, "Reading", std::nullopt);
@@ -44,13 +42,25 @@ TEST(TimelineScreenTest, RowMarksAndSubtitles) {
     EXPECT_FALSE(showsShowAll(3, 15));
 }
 
-TEST(TimelineScreenTest, DaysStepByTheCalendarAndNeverPastToday) {
+TEST(TimelineScreenTest, DaysStepAndPickersWriteByTheCalendar) {
     test::ScopedTimeZone zone{"Europe/Berlin"};
     const Date now = localInstant(2026, 3, 29, 10, 0);  // the day of the spring clock change
     EXPECT_FALSE(canStepForward(localInstant(2026, 3, 29, 0, 0), now));
     EXPECT_TRUE(canStepForward(stepDays(now, -1), now));
     EXPECT_EQ(stepDays(now, -1), localInstant(2026, 3, 28, 10, 0));
     EXPECT_EQ(stepDays(localInstant(2026, 3, 28, 10, 0), 1), now);
+
+    // The time picker reads and writes on the same date.
+    const Date start = localInstant(2026, 3, 10, 10, 37, 20);
+    EXPECT_EQ(pickerMinuteStep(start), 35);
+    EXPECT_EQ(withHourMinute(start, 10, 35), localInstant(2026, 3, 10, 10, 35));
+    // An end past midnight keeps its date.
+    EXPECT_EQ(withHourMinute(localInstant(2026, 3, 11, 0, 20), 1, 5), localInstant(2026, 3, 11, 1, 5));
+    // 02:30 does not exist on the day the clocks go forward: the time stays.
+    const Date springDay = localInstant(2026, 3, 29, 1, 0);
+    EXPECT_EQ(withHourMinute(springDay, 2, 30), springDay);
+    EXPECT_EQ(pickerHourLabel(0), "12 AM");
+    EXPECT_EQ(pickerHourLabel(12), "12 PM");
 }
 
 TEST(TimelineScreenTest, EachEventClearsItsSelection) {
@@ -100,22 +110,6 @@ TEST(TimelineScreenTest, PanelRowsFollowTheSelection) {
     EXPECT_EQ(sharePercent(5, 0), 0);
     EXPECT_EQ(chapterDetailRows(makeChapter({ActivityBuilder(1, 0, 60).open()}), clockText)[1].value,
               "00:01");
-
-    EXPECT_EQ(panelGridCategories(categories).size(), 12u);
-}
-
-TEST(TimelineScreenTest, PickerReadsAndWritesOnTheSameDate) {
-    test::ScopedTimeZone zone{"Europe/Berlin"};
-    const Date start = localInstant(2026, 3, 10, 10, 37, 20);
-    EXPECT_EQ(pickerMinuteStep(start), 35);
-    EXPECT_EQ(withHourMinute(start, 10, 35), localInstant(2026, 3, 10, 10, 35));
-    // An end past midnight keeps its date.
-    EXPECT_EQ(withHourMinute(localInstant(2026, 3, 11, 0, 20), 1, 5), localInstant(2026, 3, 11, 1, 5));
-    // 02:30 does not exist on the day the clocks go forward: the time stays.
-    const Date springDay = localInstant(2026, 3, 29, 1, 0);
-    EXPECT_EQ(withHourMinute(springDay, 2, 30), springDay);
-    EXPECT_EQ(pickerHourLabel(0), "12 AM");
-    EXPECT_EQ(pickerHourLabel(12), "12 PM");
 }
 
 TEST(TimelineScreenTest, EditSheetStartsFromTheRecordAndWritesItsColumns) {
