@@ -8,8 +8,8 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <iterator>
 #include <random>
-#include <sstream>
 
 #include "TempDir.h"
 
@@ -26,9 +26,7 @@ struct Outcome {
 
 std::string slurp(const std::filesystem::path& file) {
     std::ifstream in(file);
-    std::stringstream text;
-    text << in.rdbuf();
-    return text.str();
+    return {std::istreambuf_iterator<char>(in), {}};
 }
 
 // Runs the open_store tool with the parent's environment minus HOME and XDG_DATA_HOME, plus
