@@ -15,10 +15,7 @@
 namespace larkspan::analytics {
 namespace {
 
-using test::ActivityBuilder;
-using test::localInstant;
-using test::ScopedTimeZone;
-using test::TempDir;
+using namespace test;
 
 class AnalyticsLoad : public ::testing::Test {
 protected:

@@ -9,8 +9,7 @@
 namespace larkspan::analytics {
 namespace {
 
-using test::localInstant;
-using test::ScopedTimeZone;
+using namespace test;
 
 DaySummary day(Date date, std::int64_t total, std::int64_t productive,
                std::map<std::int64_t, std::int64_t> by = {}) {

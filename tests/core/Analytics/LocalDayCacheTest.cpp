@@ -11,8 +11,7 @@
 namespace larkspan::analytics {
 namespace {
 
-using test::localInstant;
-using test::ScopedTimeZone;
+using namespace test;
 
 TEST(LocalDayCache, AgreesWithTheZoneAcrossAYearOfClockChanges) {
     // New York changes at 02:00; Havana and Santiago skip midnight itself, and Santiago repeats the

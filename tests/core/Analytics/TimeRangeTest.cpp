@@ -9,8 +9,7 @@
 namespace larkspan::analytics {
 namespace {
 
-using test::localInstant;
-using test::ScopedTimeZone;
+using namespace test;
 
 LocalDay dayOf(Date instant) {
     return LocalDayCache().dayOf(instant);

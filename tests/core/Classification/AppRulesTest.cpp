@@ -12,8 +12,7 @@ namespace larkspan {
 namespace {
 
 using std::nullopt;
-using test::lower;
-using test::upper;
+using namespace test;
 using R = ClassificationResult;
 
 // The tables' shape, and that each row is reached as its own prefix, case-sensitively.

@@ -8,8 +8,7 @@
 namespace larkspan {
 namespace {
 
-using test::SqliteFile;
-using test::TempDir;
+using namespace test;
 
 class CategoryQueries : public ::testing::Test {
 protected:

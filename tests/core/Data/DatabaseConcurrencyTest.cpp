@@ -12,8 +12,7 @@
 namespace larkspan {
 namespace {
 
-using test::SqliteFile;
-using test::TempDir;
+using namespace test;
 
 // Writers insert pending sessions and close them while a reader reads ranges and counts pending rows,
 // all on one connection.

@@ -10,8 +10,7 @@ namespace larkspan {
 namespace {
 
 using namespace std::string_literals;
-using test::SqliteFile;
-using test::TempDir;
+using namespace test;
 
 // Everything a start could change: the schema with its version counter, and every row of the
 // tables start-up writes to.

@@ -9,8 +9,7 @@
 namespace larkspan {
 namespace {
 
-using test::ScopedTimeZone;
-using test::TempDir;
+using namespace test;
 
 class Summaries : public ::testing::Test {
 protected:

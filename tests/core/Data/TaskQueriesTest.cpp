@@ -7,8 +7,7 @@
 namespace larkspan {
 namespace {
 
-using test::ScopedTimeZone;
-using test::TempDir;
+using namespace test;
 
 class TaskQueries : public ::testing::Test {
 protected:

@@ -9,8 +9,7 @@
 namespace larkspan {
 namespace {
 
-using test::ActivityBuilder;
-using test::localInstant;
+using namespace test;
 
 std::string clockText(Date instant) {
     char text[8];
