@@ -30,6 +30,7 @@ QPalette schemePalette(ColorScheme scheme) {
     const bool dark = scheme == ColorScheme::dark;
     // The rest follows from the button and window colours, as in a desktop theme; the accent is blue.
     QPalette palette(QColor(dark ? "#3a3a3a" : "#e8e8e7"), QColor(dark ? "#1e1e1e" : "#f6f5f4"));
+    palette.setColor(QPalette::Base, QColor(dark ? "#262626" : "#ffffff"));
     palette.setColor(QPalette::Highlight, QColor("#3584e4"));
     palette.setColor(QPalette::Link, QColor(dark ? "#78aeed" : "#1a5fb4"));
     return palette;
