@@ -1,11 +1,6 @@
 // The analytics tab over a real store holding ninety days of generated history: every range, the day
 // bar and its keys, an empty period, and screenshots of each in light and dark.
-#include <QTest>
-
-#include "ActivityBuilder.h"
 #include "DashboardRig.h"
-#include "QuickScreen.h"
-#include "ScopedTimeZone.h"
 #include "YearOfData.h"
 
 using namespace larkspan;
@@ -15,7 +10,7 @@ namespace {
 
 // Ninety days of a user's history before the rig's morning (09:00), and today one early visit of a
 // page whose long right-to-left name with an emoji must elide inside its column.
-struct History : test::DashboardRig {
+struct History : test::DashboardScreen {
     test::ScopedTimeZone zone{"Europe/Berlin"};
 
     History() {
@@ -27,6 +22,7 @@ struct History : test::DashboardRig {
                               .domain("a-very-long-subdomain.of-an-example-documentation-site.example.org")
                               .category(10));
     }
+    AnalyticsController& controller = *screens.analytics();
 };
 
 }  // namespace
@@ -34,13 +30,11 @@ struct History : test::DashboardRig {
 class AnalyticsViewTest : public QObject {
     Q_OBJECT
 private slots:
-    void everyRangeOverNinetyDays() {
-        History history;
-        AnalyticsController& controller = *history.screens.analytics();
-        QuickScreen screen;
-        QVERIFY(
-            screen.load("AnalyticsView", {{"controller", QVariant::fromValue(&controller)}}, {1000, 1500}));
-        controller.waitForLoad();
+    void everyRangeOverNinetyDaysAndTheDayBar() {
+        History h;
+        QVERIFY(h.show("AnalyticsView", h.controller, {1000, 1500}));
+        QuickScreen& screen = h.screen;
+        AnalyticsController& controller = h.controller;
 
         // The rolling windows reach back 7, 30 and 90 days from 09:00, each touching one day more.
         struct Case {
@@ -65,14 +59,8 @@ private slots:
         // Every tile says its figure; the pomodoros of the whole period add up.
         QVERIFY(screen.accessibleName("tile0").startsWith(QStringLiteral("Total Tracked: ")));
         QVERIFY(screen.text("tileValue2").startsWith(QStringLiteral("\U0001F345 ")));
-    }
 
-    void theDayBarStepsByKeyAndKeepsItsDay() {
-        History history;
-        AnalyticsController& controller = *history.screens.analytics();
-        QuickScreen screen;
-        QVERIFY(
-            screen.load("AnalyticsView", {{"controller", QVariant::fromValue(&controller)}}, {1000, 1100}));
+        // The day bar steps by key and keeps its day.
         QVERIFY(screen.press("range-Day"));
         controller.waitForLoad();
         QVERIFY(screen.find("dayBar")->isVisible());
@@ -80,8 +68,7 @@ private slots:
         QCOMPARE(screen.text("hourlyHeatmapSubtitle"), QStringLiteral("Productive minutes per hour"));
         const QString today = screen.text("dayText");
 
-        QTest::keyClick(screen.window(), Qt::Key_Left);
-        controller.waitForLoad();
+        h.keys(controller, {Qt::Key_Left});
         const QString yesterday = screen.text("dayText");
         QVERIFY(yesterday != today);
         QVERIFY(screen.find("nextDay")->isEnabled());
@@ -92,8 +79,7 @@ private slots:
         controller.waitForLoad();
         QCOMPARE(screen.text("dayText"), yesterday);
         QVERIFY(screen.saveScreenshots("analytics", "yesterday"));
-        QTest::keyClick(screen.window(), Qt::Key_Home);
-        controller.waitForLoad();
+        h.keys(controller, {Qt::Key_Home});
         QCOMPARE(screen.text("dayText"), today);
         QTest::keyClick(screen.window(), Qt::Key_Right);  // no future day
         QCOMPARE(screen.text("dayText"), today);

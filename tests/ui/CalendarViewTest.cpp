@@ -1,12 +1,8 @@
 // The calendar tab over a temporary store holding 90 days of generated history: the present month
 // with its figures, a past month, a month without data, moving by keyboard, and handing a day to the
 // timeline.
-#include <QTest>
-
 #include "DashboardRig.h"
 #include "Platform/LocalDay.h"
-#include "QuickScreen.h"
-#include "ScopedTimeZone.h"
 #include "YearOfData.h"
 
 using namespace larkspan;
@@ -24,16 +20,14 @@ class CalendarViewTest : public QObject {
 private slots:
     void monthsOfHistory() {
         test::ScopedTimeZone zone{"Europe/Berlin"};
-        test::DashboardRig rig;  // Sunday 23 November 2025, 09:00
+        test::DashboardScreen rig;  // Sunday 23 November 2025, 09:00
         bench::writeHistory(rig.db, rig.clock.now() - 86400, {90, 600, 3});
         rig.db.insertActivity(
             ActivityRecord::manual(rig.clock.now() - 7200, rig.clock.now() - 300, 1, "Review", {}));
-        rig.dashboard.loadCategories();
         rig.dashboard.setSelectedTab(QStringLiteral("Calendar"));
         CalendarController& calendar = *rig.screens.calendar();
-        QuickScreen screen;
-        QVERIFY(screen.load("CalendarView", {{"controller", QVariant::fromValue(&calendar)}}, {900, 780}));
-        calendar.waitForLoad();
+        QuickScreen& screen = rig.screen;
+        QVERIFY(rig.show("CalendarView", calendar, {900, 780}));
 
         // The present month: today ringed with its hours, the summary and the bar filled.
         QCOMPARE(screen.text("monthTitle"), QStringLiteral("November 2025"));
@@ -54,22 +48,16 @@ private slots:
 
         // → reaches next month only, Home comes back, ← goes into the past.
         screen.root()->forceActiveFocus();
-        QTest::keyClick(screen.window(), Qt::Key_Right);
-        QTest::keyClick(screen.window(), Qt::Key_Right);
+        rig.keys(calendar, {Qt::Key_Right, Qt::Key_Right});
         QCOMPARE(screen.text("monthTitle"), QStringLiteral("December 2025"));
         QVERIFY(!screen.find("nextMonth")->isEnabled());
-        QTest::keyClick(screen.window(), Qt::Key_Home);
-        QTest::keyClick(screen.window(), Qt::Key_Left);
-        QTest::keyClick(screen.window(), Qt::Key_Left);
-        calendar.waitForLoad();
+        rig.keys(calendar, {Qt::Key_Home, Qt::Key_Left, Qt::Key_Left});
         QCOMPARE(screen.text("monthTitle"), QStringLiteral("September 2025"));
         QVERIFY(!screen.accessibleName("day-1").endsWith(QStringLiteral("nothing tracked")));
         QVERIFY(screen.saveScreenshots("calendar", "past-month"));
 
         // Before the history began: zeros, no bar.
-        for (int i = 0; i < 4; ++i)
-            QTest::keyClick(screen.window(), Qt::Key_Left);
-        calendar.waitForLoad();
+        rig.keys(calendar, {Qt::Key_Left, Qt::Key_Left, Qt::Key_Left, Qt::Key_Left});
         QCOMPARE(screen.text("monthTitle"), QStringLiteral("May 2025"));
         QCOMPARE(screen.accessibleName("stat-Productive"), QStringLiteral("Productive: 0%"));
         QCOMPARE(screen.accessibleName("stat-Pomodoros"), QStringLiteral("Pomodoros: \U0001F345 0"));

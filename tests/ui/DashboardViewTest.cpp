@@ -3,14 +3,11 @@
 // reused with its state and remembers where the user left it.
 #include <QSettings>
 #include <QSystemTrayIcon>
-#include <QTest>
 
-#include "ActivityBuilder.h"
 #include "App/ui/DashboardWindow.h"
 #include "App/ui/QmlModule.h"
 #include "App/ui/QtAppPresenter.h"
 #include "DashboardRig.h"
-#include "QuickScreen.h"
 
 using namespace larkspan;
 using larkspan::test::ActivityBuilder;
@@ -46,15 +43,11 @@ struct Tracker : test::DashboardRig {
 };
 
 QQuickView* shownDashboard() {
-    QQuickView* found = nullptr;
-    int count = 0;
-    for (QWindow* window : QGuiApplication::topLevelWindows()) {
-        if (window->title() == QLatin1String("Larkspan")) {
-            ++count;
-            found = qobject_cast<QQuickView*>(window);
-        }
-    }
-    return count == 1 ? found : nullptr;
+    QList<QQuickView*> found;
+    for (QWindow* window : QGuiApplication::topLevelWindows())
+        if (window->title() == QLatin1String("Larkspan"))
+            found << qobject_cast<QQuickView*>(window);
+    return found.size() == 1 ? found.front() : nullptr;
 }
 
 }  // namespace

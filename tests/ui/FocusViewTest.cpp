@@ -1,26 +1,19 @@
 // The focus tab over a real store in a temporary folder: idle with no tasks, adding from the keyboard,
 // running with an active task, paused, a long list of odd titles, renaming and the settings sheet,
 // each state photographed in light and dark.
-#include <QTest>
-
 #include "DashboardRig.h"
-#include "QuickScreen.h"
 
 using namespace larkspan;
 
 namespace {
 
-const QSize kTabSize{780, 740};
-
-struct FocusTab : test::DashboardRig {
+struct FocusTab : test::DashboardScreen {
     FocusController& focus = *screens.focus();
-    QuickScreen screen;
 
     bool load() {
-        const bool loaded = screen.load("FocusView", {{"controller", QVariant::fromValue(&focus)}}, kTabSize);
+        const bool loaded = show("FocusView", focus, {780, 740});
         // Shortcuts answer in the active window only.
         screen.window()->requestActivate();
-        focus.waitForLoad();
         return loaded;
     }
     void key(Qt::Key key) { QTest::keyClick(screen.window(), key); }

@@ -13,23 +13,7 @@ using namespace larkspan;
 
 namespace {
 
-// Pixels more than half covered; with `color` valid, only those of that colour.
-int coveredPixels(const QImage& image, const QRect& area, QColor color = {}) {
-    int count = 0;
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        for (int x = area.left(); x <= area.right(); ++x) {
-            const QColor c = image.pixelColor(x, y);
-            const bool near = !color.isValid() ||
-                              (qAbs(c.red() - color.red()) < 40 && qAbs(c.green() - color.green()) < 40 &&
-                               qAbs(c.blue() - color.blue()) < 40);
-            count += c.alpha() > 128 && near;
-        }
-    }
-    return count;
-}
-
-// Every symbol in the text colour, an unknown symbol that must stay empty, and an icon-only button
-// tinted the way controls are.
+// Every symbol in the text colour, and an unknown symbol that must stay empty.
 const QByteArray scene = R"(
 import QtQuick
 import QtQuick.Controls
@@ -38,24 +22,14 @@ import Larkspan
 Pane {
     required property var names
     padding: 12
-    Column {
-        spacing: 12
-        Grid {
-            columns: 12
-            spacing: 10
-            Repeater {
-                model: names
-                SymbolIcon { objectName: "symbol-" + modelData; name: modelData; size: 24 }
-            }
-            SymbolIcon { objectName: "unknown"; name: "no.such.symbol"; size: 24 }
+    Grid {
+        columns: 12
+        spacing: 10
+        Repeater {
+            model: names
+            SymbolIcon { objectName: "symbol-" + modelData; name: modelData; size: 24 }
         }
-        Button {
-            Accessible.name: "Previous day"
-            Accessible.onPressAction: clicked()
-            icon.source: Icons.source("chevron.left")
-            icon.color: "#e5484d"
-            display: AbstractButton.IconOnly
-        }
+        SymbolIcon { objectName: "unknown"; name: "no.such.symbol"; size: 24 }
     }
 }
 )";

@@ -1,34 +1,23 @@
 // The review tab over a real store: empty, a few cards and a full list; a pick, "Skip" and
 // "Approve All as-is" settle cards, and the highlighted tile is the suggestion.
-#include <QTest>
-
-#include "ActivityBuilder.h"
 #include "DashboardRig.h"
-#include "QuickScreen.h"
 
 using namespace larkspan;
 
 namespace {
 
-struct Review {
-    test::DashboardRig rig;
-    QuickScreen screen;
-
-    Review() { rig.dashboard.loadCategories(); }
+struct Review : test::DashboardScreen {
     std::int64_t add(int i, std::optional<std::int64_t> category, std::string title = "Quarterly plan",
                      std::optional<std::string> domain = "docs.example.org") {
-        return rig.db.insertActivity(test::ActivityBuilder(0, rig.clock.now() - 600.0 * (i + 1), 65 + 60 * i)
-                                         .app("Firefox", "org.mozilla.firefox")
-                                         .title(std::move(title))
-                                         .domain(std::move(domain))
-                                         .category(category)
-                                         .pending(0.4));
+        return db.insertActivity(test::ActivityBuilder(0, clock.now() - 600.0 * (i + 1), 65 + 60 * i)
+                                     .app("Firefox", "org.mozilla.firefox")
+                                     .title(std::move(title))
+                                     .domain(std::move(domain))
+                                     .category(category)
+                                     .pending(0.4));
     }
-    bool show() {
-        auto* controller = rig.screens.review();
-        const bool loaded =
-            screen.load("PendingReviewView", {{"controller", QVariant::fromValue(controller)}}, {900, 700});
-        controller->waitForLoad();
+    bool load() {
+        const bool loaded = show("PendingReviewView", *screens.review(), {900, 700});
         screen.grab();  // lays the cards out
         return loaded;
     }
@@ -47,7 +36,7 @@ private slots:
             std::nullopt);
         review.add(1, category_id::awayBreak);
         review.add(2, std::nullopt);
-        QVERIFY(review.show());
+        QVERIFY(review.load());
         QCOMPARE(review.screen.find("cardList")->property("count").toInt(), 3);
         QVERIFY(review.screen.text("cardMeta").startsWith(QStringLiteral("Firefox")));
         // The suggestion stands out: Coding is the first tile.
@@ -56,19 +45,19 @@ private slots:
 
         // A pick: approved with that category, the card goes.
         QVERIFY(review.screen.press("category-10"));
-        QCOMPARE(review.rig.db.fetchActivity(first)->categoryID, category_id::research);
-        review.rig.screens.review()->waitForLoad();
+        QCOMPARE(review.db.fetchActivity(first)->categoryID, category_id::research);
+        review.screens.review()->waitForLoad();
         QTRY_COMPARE(review.screen.find("cardList")->property("count").toInt(), 2);
 
         // The faded card may linger in the tree: the first card now is the next one.
         QVERIFY(QMetaObject::invokeMethod(findItem(review.screen.find("card-0"), "skip"), "clicked"));
-        QCOMPARE(review.rig.db.pendingApprovalCount(), 1);
+        QCOMPARE(review.db.pendingApprovalCount(), 1);
 
         QVERIFY(review.screen.press("approveAll"));
-        review.rig.screens.review()->waitForLoad();
+        review.screens.review()->waitForLoad();
         QTRY_VERIFY(review.screen.find("caughtUp")->isVisible());
         QVERIFY(!review.screen.find("approveAll")->isVisible());
-        QCOMPARE(review.rig.db.pendingApprovalCount(), 0);
+        QCOMPARE(review.db.pendingApprovalCount(), 0);
         QVERIFY(review.screen.saveScreenshots("review", "empty"));
     }
 
@@ -76,7 +65,7 @@ private slots:
         Review review;
         for (int i = 0; i < 120; ++i)
             review.add(i % 40, category_id::reading, "Chapter " + std::to_string(i));
-        QVERIFY(review.show());
+        QVERIFY(review.load());
         QCOMPARE(review.screen.find("cardList")->property("count").toInt(), 100);
         QVERIFY(review.screen.saveScreenshots("review", "hundred-cards"));
     }

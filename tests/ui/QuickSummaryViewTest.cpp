@@ -10,7 +10,6 @@
 #include <fstream>
 
 #include "ActivityBuilder.h"
-
 #include "App/ui/QtAppPresenter.h"
 #include "App/ui/QuickSummaryController.h"
 #include "LocalInstant.h"
@@ -45,6 +44,19 @@ struct Day : BerlinZone, test::TrackerRig {
         db.insertActivity(ActivityBuilder(-1, start, seconds).app(app).title(title).category(category));
     }
 
+    // Brings `app` to the front with a window titled `title`.
+    void track(const char* app, const char* title) {
+        RawActivity sample;
+        sample.appName = app;
+        sample.windowTitle = title;
+        manager->process(sample);
+        mainQueue.drain();
+    }
+
+    bool show(QuickScreen& screen) {
+        return screen.load("QuickSummaryView", {{"controller", QVariant::fromValue(&controller)}},
+                           {320, 420});
+    }
     bool load() {
         QSignalSpy loaded(&controller, &QuickSummaryController::dayChanged);
         controller.load();
@@ -57,8 +69,6 @@ long residentKilobytes() {
     std::ifstream("/proc/self/statm") >> pages >> pages;
     return pages * (sysconf(_SC_PAGESIZE) / 1024);
 }
-
-const QSize kPopoverSize{320, 420};
 
 }  // namespace
 
@@ -81,16 +91,10 @@ private slots:
         // Five minutes into a focus session, then a terminal comes to the front.
         day.pomodoro.start();
         day.timers.advance(300);
-        RawActivity sample;
-        sample.appName = "kitty";
-        sample.bundleID = "net.kovidgoyal.kitty";
-        sample.windowTitle = "~/src/larkspan";
-        day.manager->process(sample);
-        day.mainQueue.drain();
+        day.track("kitty", "~/src/larkspan");
 
         QuickScreen screen;
-        QVERIFY(screen.load("QuickSummaryView", {{"controller", QVariant::fromValue(&day.controller)}},
-                            kPopoverSize));
+        QVERIFY(day.show(screen));
         QVERIFY(day.load());
 
         // 3000 + 1200 + 900 + 45 seconds.
@@ -109,12 +113,12 @@ private slots:
         QVERIFY(screen.saveScreenshots("quick-summary", "full-day-running"));
     }
 
-    // Each timer button drives the timer, by mouse and by a screen reader; the view follows the run state.
+    // Each button does its action, the timer's by mouse and by a screen reader; the view follows the
+    // timer's run state and the tracker's session at once.
     void timerButtonsDriveTheTimer() {
         Day day;
         QuickScreen screen;
-        QVERIFY(screen.load("QuickSummaryView", {{"controller", QVariant::fromValue(&day.controller)}},
-                            kPopoverSize));
+        QVERIFY(day.show(screen));
         QVERIFY(!screen.visible("totalText"));  // no summary before the first load
         QVERIFY(day.load());
         QVERIFY(screen.visible("breakdownEmpty") && screen.visible("recentEmpty"));
@@ -140,25 +144,16 @@ private slots:
         QVERIFY(!screen.visible("timerStopButton"));
         day.pomodoro.switchMode(PomodoroTimer::Mode::shortBreak);
         QCOMPARE(screen.text("timerMode"), QStringLiteral("Short Break"));
-    }
 
-    void buttonsRunTheirActionsAndTheViewFollowsTheTrackerAtOnce() {
-        Day day;
+        // The other buttons run their actions.
         int opened = 0;
         int reviewed = 0;
         day.controller.setOnOpenDashboard([&opened] { ++opened; });
         day.controller.setOnOpenReview([&reviewed] { ++reviewed; });
-        QuickScreen screen;
-        QVERIFY(screen.load("QuickSummaryView", {{"controller", QVariant::fromValue(&day.controller)}},
-                            kPopoverSize));
         QVERIFY(screen.click("openDashboardButton"));
         QCOMPARE(opened, 1);
         // The session and the pending count show as they are published, with no load in between.
-        RawActivity sample;
-        sample.appName = "kitty";
-        sample.windowTitle = "~/src/larkspan";
-        day.manager->process(sample);
-        day.mainQueue.drain();
+        day.track("kitty", "~/src/larkspan");
         day.manager->pendingApprovalCount.set(2);
         QCOMPARE(screen.text("sessionTitle"), QStringLiteral("~/src/larkspan"));
         QVERIFY(screen.visible("pendingBanner"));

@@ -3,33 +3,24 @@
 // browser section: per browser, whether its extension reported in the last minute, following the
 // bridge as time passes while the view is shown.
 #include <QSignalSpy>
-#include <QTest>
 
-#include "ActivityBuilder.h"
 #include "App/ui/BrowserBridgeStatusModel.h"
 #include "DashboardRig.h"
 #include "FakeBrowserBridge.h"
-#include "ManualClock.h"
-#include "QuickScreen.h"
 
 using namespace larkspan;
 
 namespace {
 
-struct Settings {
-    test::DashboardRig rig;
-    QuickScreen screen;
-    SettingsController& controller = *rig.screens.settings();
+struct Settings : test::DashboardScreen {
+    SettingsController& controller = *screens.settings();
 
-    Settings() {
-        rig.dashboard.loadCategories();
-        QVERIFY(screen.load("SettingsView", {{"controller", QVariant::fromValue(&controller)}}, {820, 900}));
-    }
+    Settings() { QVERIFY(show("SettingsView", controller, {820, 900})); }
     bool sheetOpen(const char* name) const {
         auto* popup = screen.root()->findChild<QObject*>(name);
         return popup && popup->property("opened").toBool();
     }
-    QString lastName() { return QString::fromStdString(rig.db.fetchCategories().back().name); }
+    QString lastName() { return QString::fromStdString(db.fetchCategories().back().name); }
 };
 
 }  // namespace
@@ -84,14 +75,13 @@ private slots:
         QVERIFY(s.screen.saveScreenshots("settings", "edit-sheet"));
         QVERIFY(s.controller.save(category_id::coding, hostile, QStringLiteral("\U0001F600"), 1));
         QVERIFY(s.controller.save(category_id::writing, QString(10'000, QLatin1Char('n')), "x", 0));
-        QCOMPARE(QString::fromStdString(s.rig.db.fetchCategories().front().name), hostile);
+        QCOMPARE(QString::fromStdString(s.db.fetchCategories().front().name), hostile);
         QCOMPARE(s.screen.text("categoryName"), hostile);
         QVERIFY(s.screen.saveScreenshots("settings", "hostile-names"));
 
         // A read-only store: the sheet stays open, the list, the rows and the activities stay.
-        const auto old =
-            s.rig.db.insertActivity(test::ActivityBuilder(0, 0, 60).category(category_id::coding));
-        s.rig.db.exec("PRAGMA query_only=ON");
+        const auto old = s.db.insertActivity(test::ActivityBuilder(0, 0, 60).category(category_id::coding));
+        s.db.exec("PRAGMA query_only=ON");
         QVERIFY(!s.controller.save(category_id::coding, QStringLiteral("Renamed"), "x", 0));
         QVERIFY(!s.controller.remove(category_id::coding));
         s.controller.deleteOlderThanOneYear();
@@ -99,8 +89,8 @@ private slots:
         QVERIFY(s.sheetOpen("editCategorySheet"));
         QTest::keyClick(s.screen.window(), Qt::Key_Escape);
         QTRY_VERIFY(!s.sheetOpen("editCategorySheet"));
-        QCOMPARE(QString::fromStdString(s.rig.db.fetchCategories().front().name), hostile);
-        QCOMPARE(s.rig.db.fetchActivity(old)->categoryID, category_id::coding);
+        QCOMPARE(QString::fromStdString(s.db.fetchCategories().front().name), hostile);
+        QCOMPARE(s.db.fetchActivity(old)->categoryID, category_id::coding);
         QCOMPARE(s.controller.categories()->count(), 21);
     }
 

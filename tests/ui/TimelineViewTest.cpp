@@ -1,13 +1,8 @@
 // The day screen over a temporary store holding a busy day: canvas and list, both panels, both
 // sheets writing what was typed, the keyboard, an empty day with and without a filter, and a refused
 // insert keeping the manual sheet open.
-#include <QTest>
-
-#include "ActivityBuilder.h"
 #include "DashboardRig.h"
 #include "LocalInstant.h"
-#include "QuickScreen.h"
-#include "ScopedTimeZone.h"
 
 using namespace larkspan;
 using test::ActivityBuilder;
@@ -19,7 +14,11 @@ Date at(int hour, int minute, int second = 0) {
     return test::localInstant(2025, 11, 22, hour, minute, second);
 }
 
-struct BusyDay : test::DashboardRig {
+struct InUtc {
+    test::ScopedTimeZone zone{"UTC"};
+};
+
+struct BusyDay : InUtc, test::DashboardScreen {
     TimelineController& timeline = *screens.timeline();
 
     // Activities from 07:00: editor sessions stitched in pairs between chat visits, pages with long,
@@ -51,15 +50,10 @@ struct BusyDay : test::DashboardRig {
         db.insertActivity(ActivityBuilder(-1, at(13, 0), 200).app("Zqx").title("Mystery tool").pending(0.3));
         db.insertActivity(ActivityBuilder(-1, at(20, 0), 0).app("kitty", "net.kovidgoyal.kitty").open());
         db.insertActivity(ActivityBuilder(-1, at(23, 50), 1200).app("mpv").title("Late film").category(12));
-        dashboard.loadCategories();
         dashboard.setSelectedDate(at(12, 0));
     }
 
-    void load(QuickScreen& screen) {
-        QVERIFY(screen.load("TimelineView", {{"controller", QVariant::fromValue(&timeline)}}, {1100, 740}));
-        timeline.waitForLoad();
-        QVERIFY(timeline.loaded());
-    }
+    bool load() { return show("TimelineView", timeline, {1100, 740}) && timeline.loaded(); }
 };
 
 QVariant rowValue(ValueListModelBase* model, int row, const char* role) {
@@ -85,12 +79,11 @@ int rowWhere(ValueListModelBase* model, const char* role, const QString& text) {
 class TimelineViewTest : public QObject {
     Q_OBJECT
 private slots:
-    void busyDayAsCanvasAndList() {
-        test::ScopedTimeZone zone{"UTC"};
+    void busyDayAsCanvasAndListWithItsSheetsAndKeys() {
         BusyDay day;
         day.fill();
-        QuickScreen screen;
-        day.load(screen);
+        QVERIFY(day.load());
+        QuickScreen& screen = day.screen;
         QVERIFY(screen.text("summaryText").contains(QStringLiteral(" tracked \u00B7 ")));
         QVERIFY(day.timeline.header().canStepForward);
 
@@ -142,26 +135,16 @@ private slots:
         QCOMPARE(rowValue(rows, rowWhere(rows, "title", "main.cpp"), "visits").toInt(), visits - 1);
 
         // ← a day back clears and loads an empty day; → comes back; Home goes to today.
-        QTest::keyClick(screen.window(), Qt::Key_Left);
-        day.timeline.waitForLoad();
+        day.keys(day.timeline, {Qt::Key_Left});
         QCOMPARE(rows->rowCount(), 0);
-        QTest::keyClick(screen.window(), Qt::Key_Right);
-        day.timeline.waitForLoad();
+        day.keys(day.timeline, {Qt::Key_Right});
         QVERIFY(rows->rowCount() > 5);
-        QTest::keyClick(screen.window(), Qt::Key_Home);
-        day.timeline.waitForLoad();
+        day.keys(day.timeline, {Qt::Key_Home});
         QVERIFY(!day.timeline.header().canStepForward);
         QVERIFY(!screen.find("nextDay")->isEnabled());
-    }
 
-    void sheetsWriteWhatWasTyped() {
-        test::ScopedTimeZone zone{"UTC"};
-        BusyDay day;
-        day.fill();
-        QuickScreen screen;
-        day.load(screen);
-        QVERIFY(screen.press("listMode"));
-        auto* rows = day.timeline.rows();
+        // The sheets write what was typed, back on the busy day.
+        day.keys(day.timeline, {Qt::Key_Left});
         const int pending = rowWhere(rows, "title", "Mystery");
         showRow(screen, pending);
         QVERIFY(screen.press("editRow" + QString::number(pending)));
@@ -202,13 +185,11 @@ private slots:
     }
 
     void emptyDayWithAndWithoutFilter() {
-        test::DashboardRig rig;
-        rig.dashboard.loadCategories();
-        rig.db.insertActivity(ActivityBuilder(-1, rig.clock.now() - 3600, 40).app("Code").category(1));
-        TimelineController& timeline = *rig.screens.timeline();
-        QuickScreen screen;
-        QVERIFY(screen.load("TimelineView", {{"controller", QVariant::fromValue(&timeline)}}, {1100, 740}));
-        timeline.waitForLoad();
+        BusyDay day;
+        day.db.insertActivity(ActivityBuilder(-1, day.clock.now() - 3600, 40).app("Code").category(1));
+        QVERIFY(day.load());
+        TimelineController& timeline = day.timeline;
+        QuickScreen& screen = day.screen;
         QVERIFY(screen.find("nowLine")->isVisible());
         QVERIFY(screen.saveScreenshots("timeline", "today-canvas"));
         timeline.setListMode(true);

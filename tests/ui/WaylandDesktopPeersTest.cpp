@@ -226,9 +226,8 @@ private slots:
     }
 
     void promptsBecomeNotificationsThatResolveLikeTheCards() {
-        FakeNotificationServer& server = server_;
-        server.capabilities = {"body", "actions"};
-        server.next = 0;
+        server_.capabilities = {"body", "actions"};
+        server_.next = 0;
         auto peer = QDBusConnection(kPeer);
         test::RecordingPresenter windows;
         NotificationPrompts prompts(windows, connect("larkspan-prompts"));
@@ -245,9 +244,9 @@ private slots:
         std::vector<std::optional<std::int64_t>> answers;
         prompts.showApprovalPopup(record, Category::seeded(), {2, 99, 1},
                                   [&](auto id) { answers.push_back(id); });
-        QTRY_COMPARE(server.next, 1u);
-        QCOMPARE(server.lastActions, QStringList({"category-2", "\u2328\uFE0F Terminal", "category-1",
-                                                  "\U0001F4BB Coding", "skip", "Skip"}));
+        QTRY_COMPARE(server_.next, 1u);
+        QCOMPARE(server_.lastActions, QStringList({"category-2", "\u2328\uFE0F Terminal", "category-1",
+                                                   "\U0001F4BB Coding", "skip", "Skip"}));
         signal("ActionInvoked", 1, QString("category-2"));
         QTRY_COMPARE(answers.size(), 1u);
         QCOMPARE(answers[0], std::optional<std::int64_t>(2));
@@ -259,12 +258,12 @@ private slots:
 
         std::vector<std::int64_t> idleAnswers;
         prompts.showReturnFromIdlePopup(720, [&](std::int64_t id) { idleAnswers.push_back(id); });
-        QTRY_COMPARE(server.next, 2u);
-        QCOMPARE(server.lastActions.size(), 10);
+        QTRY_COMPARE(server_.next, 2u);
+        QCOMPARE(server_.lastActions.size(), 10);
         signal("ActionInvoked", 2, QString("option-2"));
         QTRY_COMPARE(idleAnswers, std::vector<std::int64_t>{6});
         prompts.closeIdlePopup();
-        QTRY_VERIFY(server.closed.contains(2u));
+        QTRY_VERIFY(server_.closed.contains(2u));
         QVERIFY(windows.approvals.empty() && windows.idlePrompts.empty());
     }
 
@@ -303,24 +302,18 @@ private slots:
     }
 
     // Milliseconds, as KDE answers; an answer of another type leaves the last figure (an hour).
-    void screenSaverIdleTime_data() {
-        QTest::addColumn<QVariant>("answer");
-        QTest::addColumn<double>("idle");
-        QTest::newRow("ninety seconds") << QVariant(90'000u) << 90.0;
-        QTest::newRow("half a second") << QVariant(500u) << 0.0;
-        QTest::newRow("text") << QVariant("idle") << 3600.0;
-    }
     void screenSaverIdleTime() {
-        QFETCH(QVariant, answer);
-        QFETCH(double, idle);
-        screenSaver_.answer = answer;
-        auto workspace = makeWorkspace(nullptr);
-        workspace->inputSilentSince(std::chrono::steady_clock::now() - std::chrono::hours(1));
-        IdleTimePoll poll(workspace, IdleTimePoll::kScreenSaver);
-        poll.startOnSessionBus();
-        QTest::qWait(IdleTimePoll::kPollMs + IdleTimePoll::kCallTimeoutMs / 2);
-        const double seen = workspace->secondsSinceLastInput();
-        QVERIFY2(seen >= idle && seen < idle + 5, qPrintable(QString::number(seen)));
+        for (const auto& [answer, idle] : {std::pair(QVariant(90'000u), 90.0), std::pair(QVariant(500u), 0.0),
+                                           std::pair(QVariant("idle"), 3600.0)}) {
+            screenSaver_.answer = answer;
+            auto workspace = makeWorkspace(nullptr);
+            workspace->inputSilentSince(std::chrono::steady_clock::now() - std::chrono::hours(1));
+            IdleTimePoll poll(workspace, IdleTimePoll::kScreenSaver);
+            poll.startOnSessionBus();
+            QTest::qWait(IdleTimePoll::kPollMs + IdleTimePoll::kCallTimeoutMs / 2);
+            const double seen = workspace->secondsSinceLastInput();
+            QVERIFY2(seen >= idle && seen < idle + 5, qPrintable(QString::number(seen)));
+        }
     }
 
     // Nothing goes to the server before the first prompt; that one waits for its answer and goes out

@@ -7,46 +7,33 @@
 #include <QQmlContext>
 #include <QRegularExpression>
 #include <QTest>
-#include <array>
 
 #include "App/ui/QmlModule.h"
 
 namespace larkspan {
 
-namespace {
-
-// Colours of the roles in this order; disabled texts take the last one.
-constexpr QPalette::ColorRole kRoles[] = {QPalette::Window,      QPalette::WindowText,
-                                          QPalette::Base,        QPalette::AlternateBase,
-                                          QPalette::Text,        QPalette::PlaceholderText,
-                                          QPalette::Button,      QPalette::ButtonText,
-                                          QPalette::Highlight,   QPalette::HighlightedText,
-                                          QPalette::Light,       QPalette::Midlight,
-                                          QPalette::Mid,         QPalette::Dark,
-                                          QPalette::Shadow,      QPalette::Link,
-                                          QPalette::ToolTipBase, QPalette::ToolTipText};
-
-QPalette paletteFrom(const std::array<const char*, std::size(kRoles) + 1>& colors) {
-    QPalette palette;
-    for (std::size_t i = 0; i < std::size(kRoles); ++i)
-        palette.setColor(kRoles[i], QColor(colors[i]));
-    palette.setColor(QPalette::BrightText, Qt::white);
-    palette.setColor(QPalette::LinkVisited, palette.color(QPalette::Link));
-    for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, QColor(colors.back()));
-    return palette;
+int coveredPixels(const QImage& image, const QRect& area, QColor color) {
+    int count = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            const QColor c = image.pixelColor(x, y);
+            const bool near = !color.isValid() ||
+                              (qAbs(c.red() - color.red()) < 40 && qAbs(c.green() - color.green()) < 40 &&
+                               qAbs(c.blue() - color.blue()) < 40);
+            count += c.alpha() > 128 && near;
+        }
+    }
+    return count;
 }
 
-}  // namespace
-
 QPalette schemePalette(ColorScheme scheme) {
-    if (scheme == ColorScheme::dark)
-        return paletteFrom({"#1e1e1e", "#f2f2f2", "#262626", "#2d2d2d", "#f2f2f2", "#8c8c8c", "#3a3a3a",
-                            "#f2f2f2", "#3584e4", "#ffffff", "#4a4a4a", "#404040", "#2a2a2a", "#141414",
-                            "#000000", "#78aeed", "#303030", "#f2f2f2", "#6e6e6e"});
-    return paletteFrom({"#f6f5f4", "#1d1d1d", "#ffffff", "#f2f2f2", "#1d1d1d", "#8a8a8a", "#e8e8e7",
-                        "#1d1d1d", "#3584e4", "#ffffff", "#ffffff", "#f0f0f0", "#c0bfbc", "#9a9996",
-                        "#3d3d3d", "#1a5fb4", "#ffffff", "#1d1d1d", "#a0a0a0"});
+    const bool dark = scheme == ColorScheme::dark;
+    // The rest follows from the button and window colours, as in a desktop theme; the accent is blue.
+    QPalette palette(QColor(dark ? "#3a3a3a" : "#e8e8e7"), QColor(dark ? "#1e1e1e" : "#f6f5f4"));
+    palette.setColor(QPalette::Base, QColor(dark ? "#262626" : "#ffffff"));
+    palette.setColor(QPalette::Highlight, QColor("#3584e4"));
+    palette.setColor(QPalette::Link, QColor(dark ? "#78aeed" : "#1a5fb4"));
+    return palette;
 }
 
 QuickScreen::QuickScreen() : originalPalette_(QGuiApplication::palette()) {
@@ -63,11 +50,7 @@ QuickScreen::~QuickScreen() {
 }
 
 bool QuickScreen::load(const QString& typeName, const QVariantMap& properties, QSize size) {
-    return create(QStringLiteral("import Larkspan\n%1 {}\n").arg(typeName).toUtf8(), properties, size);
-}
-
-bool QuickScreen::loadText(const QByteArray& qml, const QVariantMap& properties, QSize size) {
-    return create(qml, properties, size);
+    return loadText(QStringLiteral("import Larkspan\n%1 {}\n").arg(typeName).toUtf8(), properties, size);
 }
 
 bool QuickScreen::loadCard(const QString& typeName, QObject* controller) {
@@ -93,7 +76,7 @@ Rectangle {
     return loadText(scene, {}, {380, 240});
 }
 
-bool QuickScreen::create(const QByteArray& qml, const QVariantMap& properties, QSize size) {
+bool QuickScreen::loadText(const QByteArray& qml, const QVariantMap& properties, QSize size) {
     object_.reset();
     ownWindow_.reset();
     QQmlComponent component(&engine_);
@@ -146,27 +129,20 @@ QQuickItem* QuickScreen::find(const QString& objectName) const {
     return item || !window_ ? item : findItem(window_->contentItem(), objectName);
 }
 
-namespace {
-
-QPoint centreOf(const QQuickItem* item) {
-    return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
-}
-
-}  // namespace
-
-void clickItem(QQuickWindow* window, const QQuickItem* item) {
-    QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier, centreOf(item));
+void clickItem(QQuickWindow* window, const QQuickItem* item, bool hover) {
+    const QPoint centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+    if (hover)
+        QTest::mouseMove(window, centre);
+    else
+        QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier, centre);
 }
 
 bool QuickScreen::click(const QString& objectName, bool hover) {
     const QQuickItem* item = find(objectName);
-    if (!item || !item->isVisible())
-        return false;
-    if (hover)
-        QTest::mouseMove(window_, centreOf(item));
-    else
-        clickItem(window_, item);
-    return true;
+    const bool shown = item && item->isVisible();
+    if (shown)
+        clickItem(window_, item, hover);
+    return shown;
 }
 
 bool QuickScreen::press(const QString& objectName) {

@@ -25,8 +25,12 @@ enum class ColorScheme { light, dark };
 // reaches delegates and the insides of controls; null when there is none.
 QQuickItem* findItem(QQuickItem* item, const QString& objectName);
 
-// Clicks the centre of `item` in `window`, which may be a window the screen did not load.
-void clickItem(QQuickWindow* window, const QQuickItem* item);
+// Clicks (or, with `hover`, only moves the pointer to) the centre of `item` in `window`, which may be
+// a window the screen did not load.
+void clickItem(QQuickWindow* window, const QQuickItem* item, bool hover = false);
+
+// Pixels of `area` more than half covered; with `color` valid, only those near that colour.
+int coveredPixels(const QImage& image, const QRect& area, QColor color = {});
 
 // The fixed palette of a scheme.
 QPalette schemePalette(ColorScheme scheme);
@@ -81,8 +85,6 @@ public:
     bool saveScreenshots(const QString& test, const QString& state);
 
 private:
-    bool create(const QByteArray& qml, const QVariantMap& properties, QSize size);
-
     QQmlEngine engine_;
     std::unique_ptr<QQuickWindow> ownWindow_;
     std::unique_ptr<QObject> object_;
