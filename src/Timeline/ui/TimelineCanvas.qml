@@ -10,34 +10,32 @@ Flickable {
 
     required property TimelineController controller
 
+    // Room above the first row for the label lifted onto its line.
+    readonly property real topInset: 8
+
     contentWidth: width
-    contentHeight: controller.canvasHeight + 60
+    contentHeight: controller.canvasHeight + topInset + 60
     clip: true
     boundsBehavior: Flickable.StopAtBounds
     ScrollBar.vertical: ScrollBar {}
 
-    function scrollToStart() {
-        contentY = Math.max(0, Math.min(controller.scrollTargetY, contentHeight - height))
+    onContentYChanged: controller.setViewport(contentY - topInset, contentY - topInset + height)
+    onHeightChanged: controller.setViewport(contentY - topInset, contentY - topInset + height)
+
+    // Whenever the canvas comes into view it shows the present hour with one hour above it, on any
+    // day; stepping to another day keeps the place.
+    Timer {
+        id: presentHourScroll
+        interval: 150
+        onTriggered: canvas.contentY = Math.max(0, Math.min(canvas.controller.presentHourY(),
+                                                            canvas.contentHeight - canvas.height))
     }
-    onContentYChanged: controller.setViewport(contentY, contentY + height)
-    onHeightChanged: controller.setViewport(contentY, contentY + height)
-    // The day last scrolled to: a day that opens scrolls to its first activity, today to the present
-    // hour; a reload of the same day keeps the place.
-    property string scrolledDay
-    function dayLoaded() {
-        if (controller.loaded && scrolledDay !== controller.header.dateText) {
-            scrolledDay = controller.header.dateText
-            scrollToStart()
-        }
-    }
-    Component.onCompleted: dayLoaded()
-    Connections {
-        target: canvas.controller
-        function onDayChanged() { canvas.dayLoaded() }
-    }
+    onVisibleChanged: if (visible) presentHourScroll.restart()
+    Component.onCompleted: if (visible) presentHourScroll.restart()
 
     Item {
         x: 4
+        y: canvas.topInset
         width: canvas.width - 4
         height: canvas.controller.canvasHeight
 

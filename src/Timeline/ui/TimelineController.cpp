@@ -4,7 +4,6 @@
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <cmath>
 
 #include "Classification/Palette.h"
 #include "Platform/LocalDay.h"
@@ -212,12 +211,8 @@ QStringList TimelineController::hourLabels() const {
     return labels;
 }
 
-double TimelineController::scrollTargetY() const {
-    if (header_.isToday || positioned_.empty())
-        return scrollAnchorHour(clock_.now()) * canvas::hourHeight;
-    // Another day opens at its first activity, an hour of context above it.
-    return std::max(0.0,
-                    std::floor(positioned_.front().frame.y / canvas::hourHeight - 1) * canvas::hourHeight);
+double TimelineController::presentHourY() const {
+    return scrollAnchorHour(clock_.now()) * canvas::hourHeight;
 }
 
 void TimelineController::setMinDurationFilter(int seconds) {

@@ -47,7 +47,6 @@ class TimelineController final : public QObject {
     Q_PROPERTY(double hourHeight READ hourHeight CONSTANT)
     Q_PROPERTY(double timeColumnWidth READ timeColumnWidth CONSTANT)
     Q_PROPERTY(double nowLineY READ nowLineY NOTIFY dayChanged)  // -1 on another day than today
-    Q_PROPERTY(double scrollTargetY READ scrollTargetY NOTIFY dayChanged)
 
     Q_PROPERTY(TimelinePanel panel READ panel NOTIFY selectionChanged)
     Q_PROPERTY(larkspan::ValueListModelBase* panelRows READ panelRows CONSTANT)
@@ -83,7 +82,6 @@ public:
     double hourHeight() const { return canvas::hourHeight; }
     double timeColumnWidth() const { return canvas::timeColumnWidth; }
     double nowLineY() const { return nowLineY_; }
-    double scrollTargetY() const;
 
     const TimelinePanel& panel() const { return panel_; }
     ValueListModelBase* panelRows() { return &panelRows_; }
@@ -107,6 +105,8 @@ public:
 
     // The canvas rows now visible, in canvas points.
     Q_INVOKABLE void setViewport(double top, double bottom);
+    // The canvas offset that puts the hour before the present one at the top.
+    Q_INVOKABLE double presentHourY() const;
 
     Q_INVOKABLE void tapRow(double blockID);
     Q_INVOKABLE void editRow(double blockID);
