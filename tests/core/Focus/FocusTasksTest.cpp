@@ -60,11 +60,6 @@ protected:
     std::optional<std::string> label() {
         return activeTaskTitle(pomodoro.runState.get(), pomodoro.activeTaskID.get(), today());
     }
-    void finishFocus() {
-        pomodoro.start();
-        timers.advance(static_cast<double>(pomodoro.secondsLeft.get()) + 1);
-        pomodoro.switchMode(PomodoroMode::focus);
-    }
 };
 
 TEST_F(FocusTasksTest, ActiveTaskRules) {
@@ -79,7 +74,9 @@ TEST_F(FocusTasksTest, ActiveTaskRules) {
     // Tapping the active task clears it: the next focus session counts for the day only.
     tasks.select(idOf("Review PR"));
     EXPECT_EQ(pomodoro.activeTaskID.get(), std::nullopt);
-    finishFocus();
+    pomodoro.start();
+    timers.advance(25 * 60 + 1);
+    pomodoro.switchMode(PomodoroMode::focus);
     EXPECT_EQ(pomodoro.todayCount.get(), 1);
     EXPECT_EQ(creditedSessions(), 0);
 

@@ -205,54 +205,30 @@ TEST_F(PomodoroTimerTest, FirstTickAfterSleepingThroughTheEndCompletesTheSession
     EXPECT_EQ(sounds.played, (Sounds{"Tink", "Glass"}));
 }
 
-TEST_F(PomodoroTimerTest, CompletedFocusSessionsEarnTheLongBreak) {
+TEST_F(PomodoroTimerTest, OnlyACompletedFocusSessionEarnsTheLongBreak) {
     auto timer = make();
+    timer->sessionsBeforeLongBreak.set(3);
     for (std::int64_t n = 1; n <= 3; ++n) {
+        EXPECT_EQ(timer->mode.get(), Mode::focus);
         runToEnd(*timer);
-        EXPECT_EQ(timer->mode.get(), Mode::shortBreak);
-        EXPECT_EQ(timer->sessionInCycle.get(), n);
+        EXPECT_EQ(timer->sessionInCycle.get(), n % 3);
         runToEnd(*timer);
     }
-    runToEnd(*timer);  // the fourth
-    EXPECT_EQ(timer->mode.get(), Mode::longBreak);
-    EXPECT_EQ(timer->sessionInCycle.get(), 0);
-    EXPECT_EQ(timer->todayCount.get(), 4);
+    EXPECT_EQ(timer->todayCount.get(), 3);
+    // At the limit a skip earns nothing and switching modes keeps the cycle; a limit lowered below
+    // the count reached takes effect at the very next completion.
     runToEnd(*timer);
-
-    // A limit lowered below the count reached takes effect at the very next completion.
-    for (int n = 0; n < 2; ++n) {
-        runToEnd(*timer);
-        runToEnd(*timer);
-    }
+    runToEnd(*timer);
     timer->sessionsBeforeLongBreak.set(1);
-    runToEnd(*timer);
-    EXPECT_EQ(timer->mode.get(), Mode::longBreak);
-    EXPECT_EQ(timer->sessionInCycle.get(), 0);
-}
-
-TEST_F(PomodoroTimerTest, SkipNeverCountsNorEarnsTheLongBreak) {
-    auto timer = make();
-    int completions = 0;
-    timer->onSessionComplete = [&](Mode, std::optional<std::int64_t>) { ++completions; };
-    for (int n = 0; n < 3; ++n) {
-        runToEnd(*timer);
-        timer->skip();  // out of the break
-    }
-    timer->sessionsBeforeLongBreak.set(3);  // the count is now at the limit
-
     timer->start();
     hub.advance(100);
     timer->skip();
     EXPECT_EQ(timer->mode.get(), Mode::shortBreak);
-    EXPECT_EQ(timer->todayCount.get(), 3);
-    EXPECT_EQ(completions, 3);
-
-    timer->skip();
-    timer->switchMode(Mode::shortBreak);
     timer->switchMode(Mode::focus);
-    EXPECT_EQ(timer->sessionInCycle.get(), 3);
     runToEnd(*timer);
     EXPECT_EQ(timer->mode.get(), Mode::longBreak);
+    EXPECT_EQ(timer->sessionInCycle.get(), 0);
+    EXPECT_EQ(timer->todayCount.get(), 5);
 }
 
 TEST_F(PomodoroTimerTest, MidnightIsNoticedAtTheNextStartAndTheCompletionCountsForTheNewDay) {

@@ -134,9 +134,8 @@ TEST_F(ActivityMonitorTest, ABrowserSampleCarriesItsTab) {
         clock.advance(5);
         scripts.answerAlways(c.answer);
         const auto sample = capture();
-        EXPECT_EQ(sample->url, c.url);
-        EXPECT_EQ(sample->urlDomain, c.domain);
-        EXPECT_EQ(sample->windowTitle, c.title);
+        EXPECT_EQ(std::tie(sample->url, sample->urlDomain, sample->windowTitle),
+                  std::tie(c.url, c.domain, c.title));
     }
     // A non-browser never runs a script.
     const int runs = scripts.runCount();

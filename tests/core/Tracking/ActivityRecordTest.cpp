@@ -6,6 +6,8 @@
 #include <optional>
 #include <string>
 
+#include "ActivityBuilder.h"
+
 namespace larkspan {
 namespace {
 
@@ -19,11 +21,10 @@ RawActivity sample(std::string app, std::optional<std::string> bundle, std::opti
 
 ActivityRecord page(std::optional<std::string> domain, std::optional<std::string> title,
                     std::string app = "Firefox") {
-    ActivityRecord record;
-    record.appName = std::move(app);
-    record.urlDomain = std::move(domain);
-    record.windowTitle = std::move(title);
-    return record;
+    return test::ActivityBuilder(0, 0, 0)
+        .app(std::move(app))
+        .domain(std::move(domain))
+        .title(std::move(title));
 }
 
 TEST(RawActivity, IdentityIsNameBundleDomainAndIdleFlagOnly) {
