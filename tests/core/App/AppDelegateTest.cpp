@@ -175,30 +175,25 @@ TEST_F(AppDelegateTest, AFinishedFocusSessionCreditsItsTaskAndTheDayAndEveryEndN
 
 TEST_F(AppDelegateTest, TheWindowAccessPromptShowsAtMostOnceInSevenDays) {
     const Date week = AppDelegate::accessibilityPromptInterval;
-    struct Case {
-        const char* what;
-        bool granted;
-        std::optional<double> stored;
-        bool prompts;
-    };
-    const Case cases[] = {
+    // Whether windows can be read, the date of the last prompt, whether it prompts now.
+    const std::tuple<const char*, bool, std::optional<double>, bool> cases[] = {
         {"granted: the date is neither read nor written", true, kStart - 10, false},
         {"never asked", false, std::nullopt, true},
         {"asked exactly seven days ago", false, kStart - week, true},
         {"asked a second less than seven days ago", false, kStart - week + 1, false},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto& [what, granted, stored, prompts] : cases) {
+        SCOPED_TRACE(what);
         defaults.values.clear();
-        if (c.stored)
-            defaults.setReal(kLastAccessibilityPromptDateKey, *c.stored);
-        workspace.setCanReadWindows(c.granted);
+        if (stored)
+            defaults.setReal(kLastAccessibilityPromptDateKey, *stored);
+        workspace.setCanReadWindows(granted);
         const int promptsBefore = workspace.windowAccessPrompts();
         launch();
         app->stop();
-        EXPECT_EQ(workspace.windowAccessPrompts() - promptsBefore, c.prompts ? 1 : 0);
-        const auto stored = defaults.real(kLastAccessibilityPromptDateKey);
-        EXPECT_EQ(stored, c.prompts ? std::optional<double>(kStart) : c.stored);
+        EXPECT_EQ(workspace.windowAccessPrompts() - promptsBefore, prompts ? 1 : 0);
+        EXPECT_EQ(defaults.real(kLastAccessibilityPromptDateKey),
+                  prompts ? std::optional<double>(kStart) : stored);
     }
 }
 

@@ -81,21 +81,18 @@ TEST(QuickSummary, BreakdownShowsTopFourWithFractionsOfTheDaysTotal) {
 }
 
 TEST(QuickSummary, ProductivityLineTruncatesAndColoursByStrictThresholds) {
-    struct Case {
-        std::int64_t productive, total;
-        int percent;
-        ProductivityTone tone;
-    };
-    for (const Case& c :
-         {Case{61, 100, 61, ProductivityTone::green}, Case{60, 100, 60, ProductivityTone::orange},
-          Case{31, 100, 31, ProductivityTone::orange}, Case{30, 100, 30, ProductivityTone::red},
-          Case{2, 3, 66, ProductivityTone::green}}) {
-        const auto line = productivityLine(summaryOf({{1, c.total}}, c.productive));
-        SCOPED_TRACE(std::to_string(c.productive) + "/" + std::to_string(c.total));
-        ASSERT_TRUE(line);
-        EXPECT_EQ(line->percent, c.percent);
-        EXPECT_EQ(line->tone, c.tone);
-        EXPECT_EQ(line->text, std::to_string(c.percent) + "% productive today");
+    using enum ProductivityTone;
+    // Productive and total seconds, then the percentage and its tone.
+    const std::tuple<std::int64_t, std::int64_t, int, ProductivityTone> cases[] = {{61, 100, 61, green},
+                                                                                   {60, 100, 60, orange},
+                                                                                   {31, 100, 31, orange},
+                                                                                   {30, 100, 30, red},
+                                                                                   {2, 3, 66, green}};
+    for (const auto& [productive, total, percent, tone] : cases) {
+        const auto line = productivityLine(summaryOf({{1, total}}, productive));
+        ASSERT_TRUE(line) << productive << "/" << total;
+        EXPECT_EQ(std::tie(line->percent, line->tone), std::tie(percent, tone)) << productive << "/" << total;
+        EXPECT_EQ(line->text, std::to_string(percent) + "% productive today");
     }
     EXPECT_FALSE(productivityLine(DaySummary{}));
     EXPECT_NE(toneColor(ProductivityTone::green), toneColor(ProductivityTone::orange));

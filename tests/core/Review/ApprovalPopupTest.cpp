@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <sstream>
+#include <tuple>
 
 namespace larkspan {
 namespace {
@@ -26,20 +27,16 @@ ApprovalPopup card(std::vector<std::int64_t> top = {1, 4, 6, 10, 16, 17}) {
 }
 
 TEST(ApprovalPopup, GridAndMenuSplitTheCatalogue) {
-    struct Case {
-        const char* name;
-        std::vector<std::int64_t> top, grid;
-        std::size_t menuSize;
-    };
-    const Case cases[] = {
+    using Ids = std::vector<std::int64_t>;
+    const std::tuple<const char*, Ids, Ids, std::size_t> cases[] = {
         {"six ids: six buttons, fifteen in the menu", {1, 4, 6, 10, 16, 17}, {1, 4, 6, 10, 16, 17}, 15},
         {"an id without a category is nowhere", {1, 4, 6, 10, 16, 404}, {1, 4, 6, 10, 16}, 16},
         {"a seventh id is offered nowhere", {1, 2, 3, 4, 5, 6, 7}, {1, 2, 3, 4, 5, 6}, 14},
         {"no ids", {}, {}, 21},
     };
-    for (const Case& c : cases) {
-        EXPECT_EQ(idsOf(card(c.top).gridCategories()), c.grid) << c.name;
-        EXPECT_EQ(card(c.top).menuCategories().size(), c.menuSize) << c.name;
+    for (const auto& [name, top, grid, menuSize] : cases) {
+        EXPECT_EQ(idsOf(card(top).gridCategories()), grid) << name;
+        EXPECT_EQ(card(top).menuCategories().size(), menuSize) << name;
     }
     // Buttons in the order of the ids, the menu in catalogue order.
     EXPECT_EQ(idsOf(ApprovalPopup::topCategories(Category::seeded(), {4, 99, 1})),

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <optional>
 #include <string>
+#include <tuple>
 
 #include "ActivityBuilder.h"
 
@@ -29,12 +30,7 @@ ActivityRecord page(std::optional<std::string> domain, std::optional<std::string
 
 TEST(RawActivity, IdentityIsNameBundleDomainAndIdleFlagOnly) {
     const auto chrome = sample("Chrome", "com.google.Chrome", "github.com", "Issues");
-    struct Case {
-        const char* name;
-        RawActivity other;
-        bool same;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, RawActivity, bool> cases[] = {
         {"another page of the host", sample("Chrome", "com.google.Chrome", "github.com", "Pulls"), true},
         {"another host", sample("Chrome", "com.google.Chrome", "gitlab.com", "Issues"), false},
         {"another bundle", sample("Chrome", "org.chromium", "github.com", "Issues"), false},
@@ -42,8 +38,8 @@ TEST(RawActivity, IdentityIsNameBundleDomainAndIdleFlagOnly) {
         {"empty domain is not absent", sample("Chrome", "com.google.Chrome", ""), false},
         {"empty bundle is not absent", sample("Chrome", "", "github.com"), false},
     };
-    for (const Case& c : cases)
-        EXPECT_EQ(chrome == c.other, c.same) << c.name;
+    for (const auto& [name, other, same] : cases)
+        EXPECT_EQ(chrome == other, same) << name;
 }
 
 TEST(ActivityRecord, IdleAndManualRecordsAreApprovedAndNeverNegative) {
