@@ -1,16 +1,16 @@
-// A script runner whose answer the test chooses. It counts compiles and runs, can
-// refuse to compile, and can hold every run until the test releases it, to stand in for a browser
-// that does not answer. Thread-safe.
+// A script runner whose answer the test chooses. It counts compiles and runs, can refuse to compile,
+// and can hold every run until the test releases it, to stand in for a browser that does not answer.
+// Thread-safe.
 #pragma once
 
 #include <condition_variable>
-#include <mutex>
 
+#include "LockedFields.h"
 #include "Platform/ScriptRunner.h"
 
 namespace larkspan::test {
 
-class FakeScriptRunner final : public ScriptRunner {
+class FakeScriptRunner final : public ScriptRunner, private LockedFields {
 public:
     std::shared_ptr<CompiledScript> compile(const std::string&) override {
         std::lock_guard lock(mutex_);
@@ -49,18 +49,6 @@ public:
     int runCount() const { return get(runs_); }
 
 private:
-    template <typename T>
-    T get(const T& field) const {
-        std::lock_guard lock(mutex_);
-        return field;
-    }
-    template <typename T>
-    void put(T& field, const T& value) {
-        std::lock_guard lock(mutex_);
-        field = value;
-    }
-
-    mutable std::mutex mutex_;
     std::condition_variable changed_;
     std::optional<std::string> answer_;
     bool refuseCompiles_ = false;

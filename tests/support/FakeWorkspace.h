@@ -4,13 +4,13 @@
 #pragma once
 
 #include <map>
-#include <mutex>
 
+#include "LockedFields.h"
 #include "Platform/Workspace.h"
 
 namespace larkspan::test {
 
-class FakeWorkspace final : public Workspace {
+class FakeWorkspace final : public Workspace, private LockedFields {
 public:
     std::optional<RunningApplication> frontmostApplication() override {
         std::lock_guard lock(mutex_);
@@ -52,18 +52,6 @@ public:
     int frontmostReads() const { return get(frontmostReads_); }
 
 private:
-    template <typename T>
-    T get(const T& field) const {
-        std::lock_guard lock(mutex_);
-        return field;
-    }
-    template <typename T>
-    void put(T& field, const T& value) {
-        std::lock_guard lock(mutex_);
-        field = value;
-    }
-
-    mutable std::mutex mutex_;
     std::optional<RunningApplication> frontmost_;
     bool canReadWindows_ = true;
     int windowAccessPrompts_ = 0;
