@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -122,11 +123,10 @@ TEST_F(PomodoroTimerTest, EveryTransitionOfTheStateTable) {
 
         EXPECT_EQ(timer->runState.get(), row.to);
         EXPECT_EQ(timer->mode.get(), row.mode);
-        EXPECT_EQ(timer->todayCount.get(), row.todayCount);
-        EXPECT_EQ(timer->sessionInCycle.get(), row.sessionInCycle);
+        EXPECT_EQ(std::tuple(timer->todayCount.get(), timer->sessionInCycle.get(), timer->secondsLeft.get()),
+                  std::tuple(row.todayCount, row.sessionInCycle, row.secondsLeft));
         EXPECT_EQ(rig.sounds.played, row.sounds);
         EXPECT_EQ(rig.hub.activeCount(), row.to == running ? 1U : 0U);
-        EXPECT_EQ(timer->secondsLeft.get(), row.secondsLeft);
     }
 }
 
@@ -244,11 +244,11 @@ TEST_F(PomodoroTimerTest, StoredValuesOutOfRangeOrWithoutTheirDayKeepTheDefaults
     defaults.setText("pomo_long", "20");
     defaults.setInteger("pomo_cycle", 6);
     auto timer = make();
-    EXPECT_EQ(timer->shortBreakMinutes.get(), 5);
-    EXPECT_EQ(timer->longBreakMinutes.get(), 15);
-    EXPECT_EQ(timer->sessionsBeforeLongBreak.get(), 6);
-    EXPECT_EQ(timer->secondsLeft.get(), 1500);
-    EXPECT_EQ(timer->todayCount.get(), 0);
+    // Short and long break, cycle, seconds left and today's count.
+    EXPECT_EQ(
+        std::tuple(timer->shortBreakMinutes.get(), timer->longBreakMinutes.get(),
+                   timer->sessionsBeforeLongBreak.get(), timer->secondsLeft.get(), timer->todayCount.get()),
+        std::tuple(5, 15, 6, 1500, 0));
 
     // Applied settings come back after a restart.
     timer->focusMinutes.set(50);
