@@ -111,8 +111,7 @@ TEST_F(FocusTasksTest, OddTitlesAreStoredVerbatimAndBlankRenamesIgnored) {
     for (const std::string& title : titles)
         ASSERT_TRUE(tasks.add(title));
     std::vector<std::string> stored;
-    for (const TodoItem& task : today())
-        stored.push_back(task.title);
+    std::ranges::transform(today(), std::back_inserter(stored), &TodoItem::title);
     EXPECT_EQ(stored, std::vector<std::string>(std::begin(titles), std::end(titles)));
 
     tasks.rename(today().front().id, " \t ");
