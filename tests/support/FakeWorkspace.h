@@ -4,86 +4,54 @@
 #pragma once
 
 #include <map>
-#include <mutex>
 
+#include "LockedFields.h"
 #include "Platform/Workspace.h"
 
 namespace larkspan::test {
 
-class FakeWorkspace final : public Workspace {
+class FakeWorkspace final : public Workspace, private LockedFields {
 public:
     std::optional<RunningApplication> frontmostApplication() override {
-        return locked([&] {
-            ++frontmostReads_;
-            return frontmost_;
-        });
+        std::lock_guard lock(mutex_);
+        ++frontmostReads_;
+        return frontmost_;
     }
-    std::vector<RunningApplication> runningApplications() override {
-        return locked([&] { return running_; });
-    }
+    std::vector<RunningApplication> runningApplications() override { return get(running_); }
     std::optional<std::string> focusedWindowTitle(std::int64_t pid) override {
-        return locked([&] {
-            auto found = titles_.find(pid);
-            return found == titles_.end() ? std::nullopt : found->second;
-        });
+        std::lock_guard lock(mutex_);
+        const auto found = titles_.find(pid);
+        return found == titles_.end() ? std::nullopt : found->second;
     }
-    double secondsSinceLastInput() override {
-        return locked([&] { return idleSeconds_; });
-    }
-    void setApplicationActivatedHandler(std::function<void()> handler) override {
-        locked([&] { handler_ = std::move(handler); });
-    }
-    bool canReadWindows() override {
-        return locked([&] { return canReadWindows_; });
-    }
+    double secondsSinceLastInput() override { return get(idleSeconds_); }
+    void setApplicationActivatedHandler(std::function<void()> handler) override { put(handler_, handler); }
+    bool canReadWindows() override { return get(canReadWindows_); }
     void promptForWindowAccess() override {
-        locked([&] { ++windowAccessPrompts_; });
+        std::lock_guard lock(mutex_);
+        ++windowAccessPrompts_;
     }
 
     // Puts `app` in front without an activation notice (as a poll would find it); nothing for none.
-    void setFrontmost(std::optional<RunningApplication> app) {
-        locked([&] { frontmost_ = std::move(app); });
-    }
+    void setFrontmost(std::optional<RunningApplication> app) { put(frontmost_, app); }
     // Puts `app` in front and calls the activation handler, as the desktop does on a switch. Call it
     // on the thread that plays the main thread.
     void activate(RunningApplication app) {
-        const auto handler = locked([&] {
-            frontmost_ = std::move(app);
-            return handler_;
-        });
-        if (handler)
+        put(frontmost_, std::optional(app));
+        if (const auto handler = get(handler_))
             handler();
     }
     void setTitle(std::int64_t pid, std::optional<std::string> title) {
-        locked([&] { titles_[pid] = std::move(title); });
+        std::lock_guard lock(mutex_);
+        titles_[pid] = std::move(title);
     }
-    void setIdleSeconds(double seconds) {
-        locked([&] { idleSeconds_ = seconds; });
-    }
-    void setRunning(std::vector<RunningApplication> apps) {
-        locked([&] { running_ = std::move(apps); });
-    }
-    bool hasActivationHandler() const {
-        return locked([&] { return static_cast<bool>(handler_); });
-    }
-    void setCanReadWindows(bool granted) {
-        locked([&] { canReadWindows_ = granted; });
-    }
-    int windowAccessPrompts() const {
-        return locked([&] { return windowAccessPrompts_; });
-    }
-    int frontmostReads() const {
-        return locked([&] { return frontmostReads_; });
-    }
+    void setIdleSeconds(double seconds) { put(idleSeconds_, seconds); }
+    void setRunning(std::vector<RunningApplication> apps) { put(running_, apps); }
+    bool hasActivationHandler() const { return static_cast<bool>(get(handler_)); }
+    void setCanReadWindows(bool granted) { put(canReadWindows_, granted); }
+    int windowAccessPrompts() const { return get(windowAccessPrompts_); }
+    int frontmostReads() const { return get(frontmostReads_); }
 
 private:
-    template <typename Work>
-    auto locked(Work work) const -> decltype(work()) {
-        std::lock_guard lock(mutex_);
-        return work();
-    }
-
-    mutable std::mutex mutex_;
     std::optional<RunningApplication> frontmost_;
     bool canReadWindows_ = true;
     int windowAccessPrompts_ = 0;

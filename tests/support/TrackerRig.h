@@ -5,6 +5,7 @@
 #pragma once
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 #include <optional>
 
@@ -77,6 +78,12 @@ struct TrackerRig : MonitorRig {
     PomodoroTimer pomodoro{clock, defaults, sounds, timers};
 
     std::vector<ActivityRecord> rows() { return db.fetchActivities(0, 4e9); }
+    // The stored rows' application names, in start order.
+    std::vector<std::string> apps() {
+        std::vector<std::string> names;
+        std::ranges::transform(rows(), std::back_inserter(names), &ActivityRecord::appName);
+        return names;
+    }
 };
 
 }  // namespace larkspan::test

@@ -35,12 +35,9 @@ TEST(Dashboard, LiveCardShowsTheSessionsCategoryOrAGreyStopwatch) {
         ActivityBuilder(7, 1'700'000'000, 120).app("Code").title("main.cpp").category(1).open();
     EXPECT_EQ(liveSessionCard(std::nullopt, catalogue), std::nullopt);
 
-    const auto card = liveSessionCard(coding, catalogue);
-    ASSERT_TRUE(card);
-    EXPECT_EQ(card->icon, catalogue[0].icon);
-    EXPECT_EQ(card->title, coding.displayTitle());
-    EXPECT_EQ(card->status, "Live \u00B7 Coding");
-    EXPECT_EQ(card->color, catalogue[0].color());
+    EXPECT_EQ(liveSessionCard(coding, catalogue),
+              (LiveSessionCard{catalogue[0].icon, coding.displayTitle(), "Live \u00B7 Coding",
+                               catalogue[0].color()}));
 
     // A category the list does not hold (before the window read them, or deleted), none at all, or an
     // empty list: the stopwatch, grey, "Tracking".
@@ -57,11 +54,9 @@ TEST(Dashboard, LiveCardShowsTheSessionsCategoryOrAGreyStopwatch) {
     ActivityRecord longTitle = coding;
     longTitle.appName = std::string(100'000, 'x');
     longTitle.windowTitle.reset();
-    const auto renamed = liveSessionCard(longTitle, edited);
-    ASSERT_TRUE(renamed);
-    EXPECT_EQ(renamed->status, "Live \u00B7 \u05E7\u05D5\u05D3 Deep work");
-    EXPECT_EQ(renamed->color, (Color{0, 1, 0}));
-    EXPECT_EQ(renamed->title, longTitle.displayTitle());
+    EXPECT_EQ(liveSessionCard(longTitle, edited),
+              (LiveSessionCard{catalogue[0].icon, longTitle.displayTitle(),
+                               "Live \u00B7 \u05E7\u05D5\u05D3 Deep work", Color{0, 1, 0}}));
 }
 
 TEST(Dashboard, ReviewButtonShowsFromOneWaitingActivity) {

@@ -2,16 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
+
 #include "ActivityBuilder.h"
+#include "CategorizedRecord.h"
 
 namespace larkspan {
 namespace {
 
 using test::ActivityBuilder;
-
-CategoriesByID catalogue() {
-    return categoriesByID(Category::seeded());
-}
 
 DaySummary summaryOf(std::map<std::int64_t, std::int64_t> byCategory, std::int64_t productive) {
     DaySummary summary;
@@ -42,12 +42,11 @@ TEST(QuickSummary, RecentListKeepsOnlyLongerThanThirtySecondsNewestFirstAndShows
     for (int i = 0; i < 5; ++i)
         rows.push_back(ActivityBuilder(10 + i, 100 + i, 45));
     const auto recent = recentActivities(rows);
-    ASSERT_EQ(recent.size(), 7u);
-    EXPECT_EQ(recent[0].id, 4);
-    EXPECT_EQ(recent[1].id, 2);
-    EXPECT_EQ(recent[6].id, 10);
+    std::vector<std::int64_t> ids;
+    std::ranges::transform(recent, std::back_inserter(ids), &ActivityRecord::id);
+    EXPECT_EQ(ids, (std::vector<std::int64_t>{4, 2, 14, 13, 12, 11, 10}));
 
-    const auto shown = recentRows(recent, catalogue());
+    const auto shown = recentRows(recent, test::seededMap());
     ASSERT_EQ(shown.size(), 5u);
     // An unknown category shows a question mark; a known one its icon.
     EXPECT_EQ(shown[0].icon, "\u2753");
@@ -59,7 +58,7 @@ TEST(QuickSummary, RecentListKeepsOnlyLongerThanThirtySecondsNewestFirstAndShows
 TEST(QuickSummary, BreakdownShowsTopFourWithFractionsOfTheDaysTotal) {
     // Five categories: the smallest drops out, and the fractions still divide by all five.
     const DaySummary five = summaryOf({{1, 400}, {2, 300}, {3, 200}, {4, 60}, {5, 40}}, 1000);
-    const Breakdown shown = breakdown(five, catalogue());
+    const Breakdown shown = breakdown(five, test::seededMap());
     ASSERT_TRUE(shown.hasData);
     ASSERT_EQ(shown.bars.size(), 4u);
     EXPECT_DOUBLE_EQ(shown.bars[0].fraction, 0.4);
@@ -69,43 +68,38 @@ TEST(QuickSummary, BreakdownShowsTopFourWithFractionsOfTheDaysTotal) {
 
     // A category that is gone takes its place among the four without being drawn.
     const DaySummary withUnknown = summaryOf({{1, 400}, {77, 300}, {3, 200}, {4, 60}, {5, 40}}, 0);
-    const Breakdown skipped = breakdown(withUnknown, catalogue());
+    const Breakdown skipped = breakdown(withUnknown, test::seededMap());
     ASSERT_EQ(skipped.bars.size(), 3u);
     EXPECT_EQ(skipped.bars[2].category.id, 4);
 
     // Nothing to show: no summary, or an empty day.
-    EXPECT_FALSE(breakdown(DaySummary{}, catalogue()).hasData);
+    EXPECT_FALSE(breakdown(DaySummary{}, test::seededMap()).hasData);
     // Only zero-second entries: drawn, each with an empty bar.
-    const Breakdown zero = breakdown(summaryOf({{1, 0}}, 0), catalogue());
+    const Breakdown zero = breakdown(summaryOf({{1, 0}}, 0), test::seededMap());
     ASSERT_EQ(zero.bars.size(), 1u);
     EXPECT_EQ(zero.bars[0].fraction, 0);
 }
 
 TEST(QuickSummary, ProductivityLineTruncatesAndColoursByStrictThresholds) {
-    struct Case {
-        std::int64_t productive, total;
-        int percent;
-        ProductivityTone tone;
-    };
-    for (const Case& c :
-         {Case{61, 100, 61, ProductivityTone::green}, Case{60, 100, 60, ProductivityTone::orange},
-          Case{31, 100, 31, ProductivityTone::orange}, Case{30, 100, 30, ProductivityTone::red},
-          Case{2, 3, 66, ProductivityTone::green}}) {
-        DaySummary summary;
-        summary.totalSeconds = c.total;
-        summary.productiveSeconds = c.productive;
-        const auto line = productivityLine(summary);
-        ASSERT_TRUE(line) << c.productive << "/" << c.total;
-        EXPECT_EQ(line->percent, c.percent) << c.productive << "/" << c.total;
-        EXPECT_EQ(line->tone, c.tone) << c.productive << "/" << c.total;
-        EXPECT_EQ(line->text, std::to_string(c.percent) + "% productive today");
+    using enum ProductivityTone;
+    // Productive and total seconds, then the percentage and its tone.
+    const std::tuple<std::int64_t, std::int64_t, int, ProductivityTone> cases[] = {{61, 100, 61, green},
+                                                                                   {60, 100, 60, orange},
+                                                                                   {31, 100, 31, orange},
+                                                                                   {30, 100, 30, red},
+                                                                                   {2, 3, 66, green}};
+    for (const auto& [productive, total, percent, tone] : cases) {
+        const auto line = productivityLine(summaryOf({{1, total}}, productive));
+        ASSERT_TRUE(line) << productive << "/" << total;
+        EXPECT_EQ(std::tie(line->percent, line->tone), std::tie(percent, tone)) << productive << "/" << total;
+        EXPECT_EQ(line->text, std::to_string(percent) + "% productive today");
     }
     EXPECT_FALSE(productivityLine(DaySummary{}));
     EXPECT_NE(toneColor(ProductivityTone::green), toneColor(ProductivityTone::orange));
 }
 
 TEST(QuickSummary, SessionRowFallsBackForMissingSessionOrCategory) {
-    const auto categories = catalogue();
+    const auto& categories = test::seededMap();
     EXPECT_FALSE(sessionRow(std::nullopt, categories).hasSession);
 
     const SessionRow coding = sessionRow(

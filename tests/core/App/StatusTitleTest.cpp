@@ -2,18 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include "ActivityBuilder.h"
+#include "CategorizedRecord.h"
+
 namespace larkspan {
 namespace {
 
-CategoriesByID catalogue() {
-    return categoriesByID(Category::seeded());
-}
-
 ActivityRecord session(std::string app, std::optional<std::int64_t> category) {
-    ActivityRecord record;
-    record.appName = std::move(app);
-    record.categoryID = category;
-    return record;
+    return test::ActivityBuilder(0, 0, 0).app(std::move(app)).category(category);
 }
 
 // The timer's segment and the pending badge; the leading segment is a plain TitleSegment{text}.
@@ -50,7 +46,7 @@ TEST(StatusTitle, SegmentsOfEveryIconLabelTimerAndPendingCase) {
     };
     // clang-format on
     for (const Case& c : cases) {
-        const StatusTitle title = buildStatusTitle(c.session, c.pending, catalogue(), c.timer);
+        const StatusTitle title = buildStatusTitle(c.session, c.pending, test::seededMap(), c.timer);
         EXPECT_EQ(title.segments, c.expected) << c.name << ": " << title.plainText();
     }
 }

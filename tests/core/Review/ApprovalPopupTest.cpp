@@ -2,6 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <map>
+#include <sstream>
+#include <tuple>
+
 namespace larkspan {
 namespace {
 
@@ -12,109 +17,82 @@ std::vector<std::int64_t> idsOf(const std::vector<Category>& categories) {
     return ids;
 }
 
-// Every answer the card gives, in order.
-struct Answers {
-    std::vector<std::optional<std::int64_t>> given;
-    ApprovalPopup::Answer callback() {
-        return [this](std::optional<std::int64_t> id) { given.push_back(id); };
-    }
-};
-
-ApprovalPopup card(Answers& answers, std::vector<std::int64_t> top = {1, 4, 6, 10, 16, 17}) {
-    ActivityRecord record;
-    record.id = 7;
-    record.appName = "Mystery";
-    return ApprovalPopup(record, Category::seeded(), std::move(top), answers.callback());
-}
-
 void tickTimes(ApprovalPopup& popup, int times) {
     for (int i = 0; i < times; ++i)
         popup.tick();
 }
 
+ApprovalPopup card(std::vector<std::int64_t> top = {1, 4, 6, 10, 16, 17}) {
+    return ApprovalPopup(ActivityRecord{}, Category::seeded(), std::move(top), nullptr);
+}
+
 TEST(ApprovalPopup, GridAndMenuSplitTheCatalogue) {
-    struct Case {
-        const char* name;
-        std::vector<std::int64_t> top, grid;
-        std::size_t menuSize;
-    };
-    const Case cases[] = {
+    using Ids = std::vector<std::int64_t>;
+    const std::tuple<const char*, Ids, Ids, std::size_t> cases[] = {
         {"six ids: six buttons, fifteen in the menu", {1, 4, 6, 10, 16, 17}, {1, 4, 6, 10, 16, 17}, 15},
         {"an id without a category is nowhere", {1, 4, 6, 10, 16, 404}, {1, 4, 6, 10, 16}, 16},
         {"a seventh id is offered nowhere", {1, 2, 3, 4, 5, 6, 7}, {1, 2, 3, 4, 5, 6}, 14},
         {"no ids", {}, {}, 21},
     };
-    Answers answers;
-    for (const Case& c : cases) {
-        EXPECT_EQ(idsOf(card(answers, c.top).gridCategories()), c.grid) << c.name;
-        EXPECT_EQ(card(answers, c.top).menuCategories().size(), c.menuSize) << c.name;
+    for (const auto& [name, top, grid, menuSize] : cases) {
+        EXPECT_EQ(idsOf(card(top).gridCategories()), grid) << name;
+        EXPECT_EQ(card(top).menuCategories().size(), menuSize) << name;
     }
     // Buttons in the order of the ids, the menu in catalogue order.
     EXPECT_EQ(idsOf(ApprovalPopup::topCategories(Category::seeded(), {4, 99, 1})),
               (std::vector<std::int64_t>{4, 1}));
-    EXPECT_EQ(card(answers).menuCategories().front().id, 2);
+    EXPECT_EQ(card().menuCategories().front().id, 2);
     EXPECT_EQ(ApprovalPopup::menuTitle(Category::seeded()[0]), "\U0001F4BB Coding");
 }
 
-TEST(ApprovalPopup, UntouchedCardAnswersNoneAfter45TicksOnce) {
-    Answers answers;
-    auto popup = card(answers);
-    // Ticks before the card is shown count nothing.
-    popup.tick();
-    EXPECT_EQ(popup.countdown(), 45);
-    popup.startCountdown();
-    tickTimes(popup, 44);
-    EXPECT_EQ(popup.countdownText(), "1s");
-    EXPECT_TRUE(answers.given.empty());
-    popup.tick();
-    ASSERT_EQ(answers.given.size(), 1u);
-    EXPECT_EQ(answers.given[0], std::nullopt);
-    EXPECT_FALSE(popup.isTimerRunning());
-    // A stray tick, a late click or a restart after the end answer nothing more.
-    tickTimes(popup, 3);
-    popup.resolve(4);
-    popup.startCountdown();
-    popup.tick();
-    EXPECT_EQ(answers.given.size(), 1u);
-    EXPECT_EQ(popup.countdown(), 0);
-}
-
-TEST(ApprovalPopup, HoverHoldsTheCountAndLeavingResumesIt) {
-    Answers answers;
-    auto popup = card(answers);
-    popup.startCountdown();
-    tickTimes(popup, 40);
-    popup.setHovered(true);
-    tickTimes(popup, 600);
-    EXPECT_EQ(popup.countdown(), 5);
-    EXPECT_TRUE(popup.isTimerRunning());
-    EXPECT_TRUE(answers.given.empty());
-    popup.setHovered(false);
-    tickTimes(popup, 5);
-    EXPECT_EQ(answers.given, (std::vector<std::optional<std::int64_t>>{std::nullopt}));
-}
-
-TEST(ApprovalPopup, AnAnswerStopsTheCountAndIsGivenOnce) {
-    // A category from the grid or the menu.
-    Answers chosen;
-    auto popup = card(chosen);
-    popup.startCountdown();
-    tickTimes(popup, 10);
-    popup.resolve(17);
-    EXPECT_FALSE(popup.isTimerRunning());
-    tickTimes(popup, 100);
-    popup.resolve(std::nullopt);
-    EXPECT_EQ(popup.countdown(), 35);
-    EXPECT_EQ(chosen.given, (std::vector<std::optional<std::int64_t>>{17}));
-
-    // "Skip" answers none, while hovered too.
-    Answers skipped;
-    auto skipping = card(skipped);
-    skipping.startCountdown();
-    skipping.setHovered(true);
-    skipping.resolve(std::nullopt);
-    skipping.resolve(1);
-    EXPECT_EQ(skipped.given, (std::vector<std::optional<std::int64_t>>{std::nullopt}));
+// Each row drives a fresh card through its steps; every card answers at most once.
+TEST(ApprovalPopup, CountdownHoverAndClicksGiveOneAnswer) {
+    using Answers = std::vector<std::optional<std::int64_t>>;
+    using Step = std::function<void(ApprovalPopup&, int)>;
+    const std::map<std::string, Step> steps = {
+        {"start", [](ApprovalPopup& p, int) { p.startCountdown(); }},
+        {"tick", tickTimes},
+        {"hover", [](ApprovalPopup& p, int) { p.setHovered(true); }},
+        {"leave", [](ApprovalPopup& p, int) { p.setHovered(false); }},
+        {"pick", [](ApprovalPopup& p, int id) { p.resolve(id); }},
+        {"skip", [](ApprovalPopup& p, int) { p.resolve(std::nullopt); }},
+        {"gone", [](ApprovalPopup& p, int) { p.cardGone(); }},
+    };
+    struct Row {
+        const char* steps;
+        Answers answers;
+        int countdown;
+        bool running;
+    };
+    // clang-format off
+    const Row rows[] = {
+        {"tick 1 start tick 44",                       {},             1,  true},  // not shown yet: no count
+        {"start tick 45",                              {std::nullopt}, 0,  false},
+        // A stray tick, a late click or a restart after the end answer nothing more.
+        {"start tick 45 tick 3 pick 4 start tick 1",   {std::nullopt}, 0,  false},
+        {"start tick 40 hover tick 600",               {},             5,  true},
+        {"start tick 40 hover tick 600 leave tick 5",  {std::nullopt}, 0,  false},
+        {"start tick 10 pick 17 tick 100 skip",        {17},           35, false},
+        {"start hover skip pick 1",                    {std::nullopt}, 45, false},
+        {"start gone tick 50 pick 1",                  {},             45, false},
+    };
+    // clang-format on
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.steps);
+        Answers given;
+        ApprovalPopup popup(ActivityRecord{}, Category::seeded(), {1}, [&](auto id) { given.push_back(id); });
+        std::istringstream script(row.steps);
+        for (std::string step; script >> step;) {
+            int n = 0;
+            if (step == "tick" || step == "pick")
+                script >> n;
+            steps.at(step)(popup, n);
+        }
+        EXPECT_EQ(given, row.answers);
+        EXPECT_EQ(popup.countdown(), row.countdown);
+        EXPECT_EQ(popup.isTimerRunning(), row.running);
+    }
+    EXPECT_EQ(card().countdownText(), "45s");
 }
 
 TEST(ApprovalPopup, AnswerMayDestroyTheCard) {
@@ -129,16 +107,6 @@ TEST(ApprovalPopup, AnswerMayDestroyTheCard) {
     popup->resolve(1);
     EXPECT_FALSE(popup.has_value());
     EXPECT_EQ(given, 1);
-}
-
-TEST(ApprovalPopup, CardThatGoesUnansweredNeverAnswers) {
-    Answers answers;
-    auto popup = card(answers);
-    popup.startCountdown();
-    popup.cardGone();
-    tickTimes(popup, 50);
-    popup.resolve(1);
-    EXPECT_TRUE(answers.given.empty());
 }
 
 }  // namespace

@@ -12,9 +12,12 @@ using namespace test;
 
 constexpr Date now = 1'763'884'800.0;
 
-TEST(DataRetention, DeletesWhatStartedBeforeTheCutAndKeepsEverythingElse) {
+struct DataRetention : ::testing::Test {
     TempDir dir;
     Database db{dir / "tracker.db"};
+};
+
+TEST_F(DataRetention, DeletesWhatStartedBeforeTheCutAndKeepsEverythingElse) {
     for (const auto period : {RetentionPeriod::threeMonths, RetentionPeriod::oneYear}) {
         const Date cut = now - retentionSeconds(period);
         const auto before = db.insertActivity(ActivityBuilder(0, cut - 1, 7'200));
@@ -29,10 +32,8 @@ TEST(DataRetention, DeletesWhatStartedBeforeTheCutAndKeepsEverythingElse) {
     EXPECT_EQ(retentionSeconds(RetentionPeriod::threeMonths), 90 * 86'400.0);
 }
 
-TEST(DataRetention, CompactingGivesTheDeletedSpaceBack) {
-    TempDir dir;
+TEST_F(DataRetention, CompactingGivesTheDeletedSpaceBack) {
     const auto file = dir / "tracker.db";
-    Database db{file};
     const std::string title(4'000, 'x');
     for (int i = 0; i < 2'000; ++i)
         db.insertActivity(ActivityBuilder(0, now - 400 * 86'400.0 + i, 60).title(title));
@@ -43,9 +44,7 @@ TEST(DataRetention, CompactingGivesTheDeletedSpaceBack) {
     EXPECT_LT(std::filesystem::file_size(file) * 10, full);
 }
 
-TEST(DataRetention, AReadOnlyStoreChangesNothing) {
-    TempDir dir;
-    Database db{dir / "tracker.db"};
+TEST_F(DataRetention, AReadOnlyStoreChangesNothing) {
     const auto id = db.insertActivity(ActivityBuilder(0, 0, 60));
     // As a file the user cannot write behaves, whoever runs the test.
     db.exec("PRAGMA query_only=ON");

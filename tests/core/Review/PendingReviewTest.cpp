@@ -48,9 +48,9 @@ TEST_F(PendingReviewTest, ListsNewestFirstAndNeverAnActivityUnder30Seconds) {
     const auto older = pending(30, category_id::coding, 1'763'870'000);
     const auto newer = pending(600, category_id::coding);
     load();
-    ASSERT_EQ(review.pending().size(), 2u);
-    EXPECT_EQ(review.pending()[0].id, newer);
-    EXPECT_EQ(review.pending()[1].id, older);
+    std::vector<std::int64_t> ids;
+    std::ranges::transform(review.pending(), std::back_inserter(ids), &ActivityRecord::id);
+    EXPECT_EQ(ids, (std::vector<std::int64_t>{newer, older}));
     EXPECT_FALSE(review.isLoading());
 }
 

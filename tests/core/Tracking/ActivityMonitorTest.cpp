@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <thread>
+#include <tuple>
 #include <vector>
 
 #include "TrackerRig.h"
@@ -17,10 +18,10 @@ const RunningApplication kChrome{"com.google.Chrome", "Google Chrome", 20};
 struct ActivityMonitorTest : ::testing::Test, test::MonitorRig {
     std::vector<std::optional<RawActivity>> published;
     std::vector<double> returns;
-    std::vector<std::thread::id> publishingThreads;
+    const std::thread::id mainThread = std::this_thread::get_id();
     Subscription publishedSub = monitor->currentActivity.subscribe([this](const auto& sample) {
         published.push_back(sample);
-        publishingThreads.push_back(std::this_thread::get_id());
+        EXPECT_EQ(std::this_thread::get_id(), mainThread);  // every assignment on the main thread
     });
     Subscription returnSub =
         notifications.observe(userReturnedFromIdle, [this](const NotificationPayload& payload) {
@@ -56,18 +57,11 @@ TEST_F(ActivityMonitorTest, StartPollsAtOnceEveryFourSecondsAndOnActivationUntil
     EXPECT_EQ(timers.activeCount(), 0u);
     run(20);
     EXPECT_EQ(published.size(), 3u);
-    for (auto id : publishingThreads)
-        EXPECT_EQ(id, std::this_thread::get_id());  // every assignment on the main thread
 }
 
 TEST_F(ActivityMonitorTest, IdlenessStartsStrictlyAboveTheThresholdOfTheFrontApplication) {
-    struct Case {
-        std::optional<RunningApplication> front;
-        double idleSeconds;
-        bool idle;
-    };
     const RunningApplication canary{"com.google.Chrome.canary", "Chrome Canary", 21};
-    const Case cases[] = {
+    const std::tuple<RunningApplication, double, bool> cases[] = {
         {kTerminal, 120.0, false},
         {kTerminal, 120.001, true},
         // A listed browser, by prefix, waits 300 s.
@@ -75,11 +69,10 @@ TEST_F(ActivityMonitorTest, IdlenessStartsStrictlyAboveTheThresholdOfTheFrontApp
         {canary, 300.5, true},
     };
     scripts.answerAlways("https://example.com/|||Example");
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.front ? c.front->localizedName.value() : "none");
-        workspace.setFrontmost(c.front);
-        workspace.setIdleSeconds(c.idleSeconds);
-        EXPECT_EQ(capture()->isIdle, c.idle) << c.idleSeconds;
+    for (const auto& [front, idleSeconds, idle] : cases) {
+        workspace.setFrontmost(front);
+        workspace.setIdleSeconds(idleSeconds);
+        EXPECT_EQ(capture()->isIdle, idle) << *front.bundleID << " " << idleSeconds;
     }
     // The away sample names no application, whichever is in front.
     workspace.setFrontmost(kTerminal);
@@ -116,12 +109,9 @@ TEST_F(ActivityMonitorTest, TheFirstActiveCaptureAfterIdlenessReportsTheLastIdle
 }
 
 TEST_F(ActivityMonitorTest, ABrowserSampleCarriesItsTab) {
-    struct Case {
-        std::optional<std::string> answer;
-        std::optional<std::string> url, domain;
-        std::string title;
-    };
-    const Case cases[] = {
+    using Text = std::optional<std::string>;
+    // The script's answer, then the sample's address, domain and title.
+    const std::tuple<Text, Text, Text, Text> cases[] = {
         {"https://www.rust-lang.org/learn|||Learn Rust", "https://www.rust-lang.org/learn", "rust-lang.org",
          "Learn Rust"},
         {"https://example.org/|||", "https://example.org/", "example.org",
@@ -130,13 +120,12 @@ TEST_F(ActivityMonitorTest, ABrowserSampleCarriesItsTab) {
     };
     workspace.setFrontmost(kChrome);
     workspace.setTitle(kChrome.pid, "Window title");
-    for (const Case& c : cases) {
+    for (const auto& [answer, url, domain, title] : cases) {
         clock.advance(5);
-        scripts.answerAlways(c.answer);
+        scripts.answerAlways(answer);
         const auto sample = capture();
-        EXPECT_EQ(sample->url, c.url);
-        EXPECT_EQ(sample->urlDomain, c.domain);
-        EXPECT_EQ(sample->windowTitle, c.title);
+        EXPECT_EQ(std::tie(sample->url, sample->urlDomain, sample->windowTitle),
+                  std::tie(url, domain, title));
     }
     // A non-browser never runs a script.
     const int runs = scripts.runCount();

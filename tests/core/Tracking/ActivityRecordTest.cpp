@@ -5,44 +5,35 @@
 #include <cmath>
 #include <optional>
 #include <string>
+#include <tuple>
+
+#include "ActivityBuilder.h"
 
 namespace larkspan {
 namespace {
 
 using std::nullopt;
 
-RawActivity sample(std::string app, std::optional<std::string> bundle, std::optional<std::string> domain,
-                   std::optional<std::string> title = nullopt, bool idle = false, double idleSeconds = 0) {
-    return RawActivity{std::move(app), std::move(bundle), std::move(title), nullopt, std::move(domain),
-                       idle,           idleSeconds};
-}
-
 ActivityRecord page(std::optional<std::string> domain, std::optional<std::string> title,
                     std::string app = "Firefox") {
-    ActivityRecord record;
-    record.appName = std::move(app);
-    record.urlDomain = std::move(domain);
-    record.windowTitle = std::move(title);
-    return record;
+    return test::ActivityBuilder(0, 0, 0)
+        .app(std::move(app))
+        .domain(std::move(domain))
+        .title(std::move(title));
 }
 
 TEST(RawActivity, IdentityIsNameBundleDomainAndIdleFlagOnly) {
-    const auto chrome = sample("Chrome", "com.google.Chrome", "github.com", "Issues");
-    struct Case {
-        const char* name;
-        RawActivity other;
-        bool same;
+    const RawActivity chrome{"Chrome", "com.google.Chrome", "Issues", {}, "github.com"};
+    const std::tuple<const char*, RawActivity, bool> cases[] = {
+        {"another page of the host", {"Chrome", "com.google.Chrome", "Pulls", {}, "github.com"}, true},
+        {"another host", {"Chrome", "com.google.Chrome", "Issues", {}, "gitlab.com"}, false},
+        {"another bundle", {"Chrome", "org.chromium", "Issues", {}, "github.com"}, false},
+        {"idle", {"Chrome", "com.google.Chrome", "Issues", {}, "github.com", true}, false},
+        {"empty domain is not absent", {"Chrome", "com.google.Chrome", {}, {}, ""}, false},
+        {"empty bundle is not absent", {"Chrome", "", {}, {}, "github.com"}, false},
     };
-    const Case cases[] = {
-        {"another page of the host", sample("Chrome", "com.google.Chrome", "github.com", "Pulls"), true},
-        {"another host", sample("Chrome", "com.google.Chrome", "gitlab.com", "Issues"), false},
-        {"another bundle", sample("Chrome", "org.chromium", "github.com", "Issues"), false},
-        {"idle", sample("Chrome", "com.google.Chrome", "github.com", "Issues", true), false},
-        {"empty domain is not absent", sample("Chrome", "com.google.Chrome", ""), false},
-        {"empty bundle is not absent", sample("Chrome", "", "github.com"), false},
-    };
-    for (const Case& c : cases)
-        EXPECT_EQ(chrome == c.other, c.same) << c.name;
+    for (const auto& [name, other, same] : cases)
+        EXPECT_EQ(chrome == other, same) << name;
 }
 
 TEST(ActivityRecord, IdleAndManualRecordsAreApprovedAndNeverNegative) {

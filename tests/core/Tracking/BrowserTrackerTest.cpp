@@ -108,9 +108,8 @@ TEST(BrowserTrackerDomain, HostWithoutLeadingWwwElseTheTextUnchanged) {
         {"", ""},
         {std::string("https://a.com/\0x", 16), std::string("https://a.com/\0x", 16)},
     };
-    for (const auto& [text, domain] : cases) {
+    for (const auto& [text, domain] : cases)
         EXPECT_EQ(BrowserTracker::extractDomain(text), domain) << text;
-    }
 }
 
 }  // namespace

@@ -13,10 +13,6 @@ namespace {
 using namespace test;
 using Rule = std::tuple<std::string, std::string, std::int64_t>;
 
-RawActivity application(std::string name, std::optional<std::string> bundleID = std::nullopt) {
-    return RawActivity{std::move(name), std::move(bundleID), std::nullopt, std::nullopt, std::nullopt};
-}
-
 struct SessionManagerLearningTest : ::testing::Test, TrackerRig {
     // Runs `sample` as a session of `seconds`, closed by a sample of another application; returns
     // its row id.
@@ -25,7 +21,7 @@ struct SessionManagerLearningTest : ::testing::Test, TrackerRig {
         mainQueue.drain();
         const auto id = manager->currentSession.get()->id;
         timers.advance(seconds);
-        manager->process(application("kitty", "net.kovidgoyal.kitty"));
+        manager->process({"kitty", "net.kovidgoyal.kitty", {}, {}, {}});
         mainQueue.drain();
         timers.advance(10);
         return id;
@@ -101,7 +97,7 @@ TEST_F(SessionManagerLearningTest, AnswerOnAMixedServiceTeachesOnlyItsAddressAnd
 }
 
 TEST_F(SessionManagerLearningTest, AnsweringTwiceKeepsTheLaterAnswerAndAnUnknownIdChangesNoRule) {
-    const RawActivity notes = application("Zqx Notes");
+    const RawActivity notes{"Zqx Notes", {}, {}, {}, {}};
     const auto id = visit(notes);
     manager->resolveApproval(id, category_id::writing);
     manager->resolveApproval(id, category_id::planning);
@@ -110,7 +106,7 @@ TEST_F(SessionManagerLearningTest, AnsweringTwiceKeepsTheLaterAnswerAndAnUnknown
     EXPECT_EQ(db.fetchActivity(id)->categoryID, category_id::planning);
 
     // A pending session younger than 30 s puts the published count ahead of the store's.
-    manager->process(application("Zqx"));
+    manager->process({"Zqx", {}, {}, {}, {}});
     mainQueue.drain();
     EXPECT_EQ(manager->pendingApprovalCount.get(), 1);
     EXPECT_EQ(manager->nextPendingApproval(), std::nullopt);
