@@ -4,8 +4,6 @@
 # still record, open its dashboard in place of the tray (closing it keeps tracking), say once what is
 # missing, show its icon when a tray host arrives late, and quit cleanly on SIGTERM.
 # Usage: bare-desktop-test.sh path/to/larkspan
-set -euo pipefail
-larkspan=$1
 . "$(dirname "$0")/desktop-session.sh"
 
 start_desktop bare
@@ -33,9 +31,6 @@ sleep 3
 start_tray_host
 wait_until 10 tray_icon_window "$tracker" || fail "no tray icon once a host appeared"
 
-kill -TERM "$tracker"
-status=0
-wait "$tracker" || status=$?
-[ "$status" -eq 0 ] || fail "SIGTERM ended the tracker with status $status"
+stop_tracker kill -TERM "$tracker"
 [ "$(grep -c 'no system tray' "$e2e_root/larkspan.log")" -eq 1 ] || fail "the missing tray was not reported exactly once"
 echo PASS

@@ -4,8 +4,6 @@
 # xterm are switched with xdotool; the store must then hold the pages' addresses and domains,
 # classified by the domain table. Then Firefox ESR with the same extension, unsigned, in a temporary
 # profile. Usage: browser-bridge-test.sh path/to/larkspan path/to/extension
-set -euo pipefail
-larkspan=$1
 extension=$2
 . "$(dirname "$0")/desktop-session.sh"
 . "$(dirname "$0")/browser-pages.sh"

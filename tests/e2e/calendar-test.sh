@@ -3,16 +3,12 @@
 # today's cell names the time tracked today, and pressing a day opens the Timeline tab on that day —
 # the calendar shows the dashboard's selected day as selected when the person comes back to it.
 # Usage: calendar-test.sh path/to/larkspan
-set -euo pipefail
-larkspan=$1
 . "$(dirname "$0")/desktop-session.sh"
 
 start_desktop accessible
 first=$(open_window Notes "calendar: first")
 second=$(open_window Sketch "calendar: second")
-xdotool windowactivate --sync "$first"
-launch
-wait_until 10 has_rows_above 0 || fail "no activity stored 10 s after launch"
+launch_over "$first"
 for window in "$second" "$first" "$second"; do
     switch_to "$window" 4
 done

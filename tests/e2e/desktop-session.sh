@@ -1,6 +1,9 @@
 # A private desktop for running the real tracker: Xvfb, a session bus, openbox and a tray host, with
 # HOME and the XDG folders in a temporary directory. Source it, call start_desktop, and the trap
-# takes everything down again.
+# takes everything down again. The tracker under test is the script's first argument, unless the
+# script named it before.
+set -euo pipefail
+larkspan=${larkspan:-${1:-}}
 
 e2e_root=$(mktemp -d "${TMPDIR:-/tmp}/larkspan-e2e.XXXXXX")
 e2e_dir=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -133,6 +136,12 @@ launch() {
     tracker=$!
     e2e_pids+=("$tracker")
 }
+# launch_over WINDOW: the tracker started with the window in front, once it has stored a row.
+launch_over() {
+    xdotool windowactivate --sync "$1"
+    launch
+    wait_until 10 has_rows_above 0 || fail "no activity stored 10 s after launch"
+}
 rows() { db "SELECT count(*) FROM activities" 2>/dev/null || echo 0; }
 has_rows_above() { [ "$(rows)" -gt "$1" ]; }
 # switch_to WINDOW SECONDS: the window in front for that long.
@@ -142,6 +151,14 @@ switch_to() {
 }
 # The tracker has exited (or is a zombie waiting to be reaped).
 tracker_ended() { ! kill -0 "$tracker" 2>/dev/null || grep -q '^State:.*Z' "/proc/$tracker/status"; }
+# stop_tracker COMMAND...: the command ends the tracker within 10 s, with status 0.
+stop_tracker() {
+    "$@"
+    wait_until 10 tracker_ended || fail "$* did not end the tracker"
+    local status=0
+    wait "$tracker" || status=$?
+    [ "$status" -eq 0 ] || fail "$* ended the tracker with status $status"
+}
 
 # check WHAT EXPECTED QUERY: the query's result is EXPECTED.
 check() {

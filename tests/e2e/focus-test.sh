@@ -1,14 +1,11 @@
 #!/usr/bin/env bash
 # The focus tab as a screen reader user drives it: a task added there is today's task in the store,
 # verbatim, and the timer started there is the one the popover shows. Usage: focus-test.sh path/to/larkspan
-set -euo pipefail
-larkspan=$1
 . "$(dirname "$0")/desktop-session.sh"
 
 start_desktop accessible
 terminal=$(open_window kitty "~/src")
-xdotool windowactivate --sync "$terminal"
-launch
+launch_over "$terminal"
 
 a11y tray menu "Open Dashboard"
 a11y has frame Larkspan

@@ -5,7 +5,6 @@
 # folders have spaces and non-ASCII names, records, adds its login entry at the first launch (a clean
 # entry naming the installed path) and never again once it was turned off.
 # Usage: installed-test.sh path/to/build-folder
-set -euo pipefail
 build=$1
 . "$(dirname "$0")/desktop-session.sh"
 
@@ -64,15 +63,8 @@ export XDG_CONFIG_HOME="$e2e_root/config dir ü" HOME="$e2e_root/home dir ü"
 mkdir -p "$XDG_CONFIG_HOME" "$HOME"
 entry="$XDG_CONFIG_HOME/autostart/$id.desktop"
 terminal=$(open_window kitty "~: make install")
-xdotool windowactivate --sync "$terminal"
 
-quit() {
-    kill -TERM "$tracker"
-    wait "$tracker" || fail "the installed tracker did not quit cleanly"
-}
-
-launch
-wait_until 10 has_rows_above 0 || fail "the installed executable stored no activity"
+launch_over "$terminal"
 wait_until 10 test -f "$entry" || fail "the first launch added no login entry"
 clean desktop-file-validate "$entry"
 grep -qxF "TryExec=$larkspan" "$entry" || fail "the login entry does not name the installed executable: $(cat "$entry")"
@@ -80,7 +72,7 @@ wait_until 10 tray_icon_window "$tracker" || fail "no tray icon"
 startup_class=$(sed -n 's/^StartupWMClass=//p' "$share/applications/$id.desktop")
 xprop -id "$(tray_icon_window "$tracker")" WM_CLASS | grep -q "\"$startup_class\"$" ||
     fail "WM_CLASS is not $startup_class: $(xprop -id "$(tray_icon_window "$tracker")" WM_CLASS)"
-quit
+stop_tracker kill -TERM "$tracker"
 
 # Turned off from the command line, it stays off at the next launch.
 "$larkspan" --autostart off >/dev/null || fail "--autostart off failed"
@@ -90,5 +82,5 @@ launch
 xdotool windowactivate --sync "$terminal"
 wait_until 10 has_rows_above "$before" || fail "no activity after the restart"
 [ ! -e "$entry" ] || fail "the login entry came back after it was turned off"
-quit
+stop_tracker kill -TERM "$tracker"
 echo PASS

@@ -3,8 +3,6 @@
 # application no rule knows waits for a category; answered on the review tab it is approved with the
 # chosen category, the answer is learned, and the tray's count and the sidebar's review button go.
 # Usage: review-test.sh path/to/larkspan
-set -euo pipefail
-larkspan=$1
 . "$(dirname "$0")/desktop-session.sh"
 
 start_desktop accessible
@@ -31,10 +29,8 @@ a11y press "page tab" "~^Review Activities, 1 need"
 a11y has heading "Review Activities"
 a11y press "push button" "Research"
 
-[ "$(db "SELECT is_approved, needs_approval, category_id FROM activities WHERE app_name='Mystery'")" = "1|0|11" ] ||
-    fail "the answer was not stored: $(db "SELECT * FROM activities WHERE app_name='Mystery'")"
-[ "$(db "SELECT category_id FROM learned_rules WHERE rule_type='app_name' AND rule_key='Mystery'")" = 11 ] ||
-    fail "the answer was not learned"
+check "the stored answer" "1|0|11" "SELECT is_approved, needs_approval, category_id FROM activities WHERE app_name='Mystery'"
+check "the learned answer" 11 "SELECT category_id FROM learned_rules WHERE rule_type='app_name' AND rule_key='Mystery'"
 a11y gone "page tab" "~^Review Activities, "
 a11y has heading "All caught up!"
 wait_until 10 tray_counts_none ||

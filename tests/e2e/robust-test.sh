@@ -3,8 +3,6 @@
 # signal or by the tray, another program holding the database locked, a read-only database that
 # becomes writable again; and what it exposes: its folders and files are the user's alone.
 # Usage: robust-test.sh path/to/larkspan
-set -euo pipefail
-larkspan=$1
 . "$(dirname "$0")/desktop-session.sh"
 
 start_desktop
@@ -49,8 +47,7 @@ start_tracker
 second_row() { [ "$(rows_of Hostile)" -gt 1 ]; }
 wait_until 5 second_row || fail "no row after the relaunch"
 switch_to "$terminal" 2
-kill -TERM "$tracker"
-wait_until 10 tracker_ended || fail "SIGTERM did not end the tracker"
+stop_tracker kill -TERM "$tracker"
 [ "$(rows_of Shell)" = 0 ] || fail "a 2 s session stayed after SIGTERM"
 [ "$(last_row | cut -d'|' -f1)" = Hostile ] || fail "the row before it did not end: $(last_row)"
 
@@ -65,8 +62,7 @@ switch_to "$editor" 1
 [ "$(rows_of Shell)$(rows_of Ledger)" = 11 ] || fail "switches lost to a lock: $(db 'SELECT app_name FROM activities')"
 
 # A database that cannot be written: said once, and tracking goes on.
-kill -TERM "$tracker"
-wait_until 10 tracker_ended || fail "SIGTERM did not end the tracker"
+stop_tracker kill -TERM "$tracker"
 chmod 444 "$XDG_DATA_HOME/Larkspan/tracker.db"
 # Even as root: without the capability to override file modes.
 start_tracker setpriv --bounding-set=-dac_override,-dac_read_search

@@ -89,7 +89,6 @@ open_foot code "$editor_title"
 focus code 0
 back() { [ "$(db "SELECT count(*) FROM activities WHERE bundle_id = 'com.microsoft.VSCode'")" = 2 ]; }
 wait_until 15 back || fail "no new row after the compositor came back"
-kill "$tracker"
-wait "$tracker" 2>/dev/null || true
+stop_tracker kill "$tracker"
 check "integrity" ok "PRAGMA integrity_check"
 echo "PASS"

@@ -4,8 +4,6 @@
 # answers the floating approval card without it ever taking the focus. Then the popover, its timer
 # and the dashboard are used through the accessibility tree, as with a screen reader; then a hard
 # kill, a restart, and a quit through the tray menu. Usage: tracker-test.sh path/to/larkspan
-set -euo pipefail
-larkspan=$1
 . "$(dirname "$0")/desktop-session.sh"
 
 start_desktop accessible
@@ -20,10 +18,7 @@ editor=$(open_window Code "$editor_title")
 terminal=$(open_window kitty "~/src: make test")
 # No desktop entry and no rule: classified with low confidence, so it needs the user's approval.
 mystery=$(open_window Mystery "what is this")
-xdotool windowactivate --sync "$editor"
-
-launch
-wait_until 10 has_rows_above 0 || fail "no activity stored 10 s after launch"
+launch_over "$editor"
 
 switch_to "$editor" 8
 switch_to "$terminal" 8
@@ -123,10 +118,6 @@ wait_until 10 has_rows_above "$before" || fail "no new activity after the restar
 check "categories after restart" 21 "SELECT count(*) FROM categories"
 
 # Quit through the tray menu, as a panel offers it.
-a11y tray menu "Quit Larkspan"
-wait_until 10 tracker_ended || fail "Quit Larkspan did not end the tracker"
-status=0
-wait "$tracker" || status=$?
-[ "$status" -eq 0 ] || fail "the tracker exited with status $status after Quit"
+stop_tracker a11y tray menu "Quit Larkspan"
 check "integrity after quitting" ok "PRAGMA integrity_check"
 echo "PASS"

@@ -7,10 +7,6 @@ namespace {
 
 using Frame = FrameReader::Frame;
 
-std::string header(std::uint32_t length) {
-    return encodeFrame(std::string(length, 'x')).substr(0, 4);
-}
-
 TEST(BridgeProtocol, FramesSurviveAnySplitAndOversizedOnesAreSkipped) {
     const std::string two = encodeFrame(R"({"a":1})") + encodeFrame("");
     struct Case {
@@ -24,7 +20,8 @@ TEST(BridgeProtocol, FramesSurviveAnySplitAndOversizedOnesAreSkipped) {
         {"a header cut in two", {two.substr(0, 2), two.substr(2)}, {{R"({"a":1})"}, {""}}, false},
         {"a truncated message", {two.substr(0, 9)}, {}, true},
         {"over the limit, then a good one",
-         {header(17), std::string(10, 'y'), std::string(7, 'y') + encodeFrame("ok")},
+         {encodeFrame(std::string(17, 'x')).substr(0, 4), std::string(10, 'y'),
+          std::string(7, 'y') + encodeFrame("ok")},
          {{"", true}, {"ok"}},
          false},
     };

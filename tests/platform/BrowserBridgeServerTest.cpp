@@ -1,40 +1,17 @@
 #include "Platform/Linux/BrowserBridgeServer.h"
 
 #include <gtest/gtest.h>
-#include <sys/socket.h>
-#include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <cstring>
-
 #include "BrowserHost/BridgeProtocol.h"
+#include "BrowserHost/TrackerLink.h"
 #include "ManualClock.h"
 #include "TempDir.h"
 #include "XvfbDisplay.h"
 
 namespace larkspan {
 namespace {
-
-// A host's end of the socket; -1 when it cannot connect.
-int connectTo(const std::string& path) {
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    std::strncpy(address.sun_path, path.c_str(), sizeof address.sun_path - 1);
-    const int fd = ::socket(AF_UNIX, SOCK_STREAM, 0);
-    if (::connect(fd, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0)
-        return fd;
-    ::close(fd);
-    return -1;
-}
-
-void send(int fd, const std::string& bytes) {
-    for (std::size_t sent = 0; sent < bytes.size();) {
-        const auto n = ::send(fd, bytes.data() + sent, bytes.size() - sent, MSG_NOSIGNAL);
-        ASSERT_GT(n, 0);
-        sent += static_cast<std::size_t>(n);
-    }
-}
 
 std::string report(std::int64_t pid, const std::string& title) {
     return encodeFrame(forwardedMessage({pid, {false, "https://github.com/", title}}));
@@ -57,14 +34,14 @@ TEST(BrowserBridgeServer, KeepsEachBrowsersLatestGoodReportWhileItsHostIsConnect
     ASSERT_TRUE(s.server.listening());
     const auto self = static_cast<std::int64_t>(::getpid());
     {
-        const int host = connectTo(s.path);
-        ASSERT_GE(host, 0);
+        // The browser host's own link.
+        TrackerLink host(s.path);
         testing::internal::CaptureStderr();
         // Garbage, an oversized frame and invalid UTF-8 are dropped; the reports around them stand.
-        send(host, report(self, "first") + encodeFrame("{nope") +
-                       encodeFrame(std::string(kMaxFrameBytes + 1, '{')) +
-                       encodeFrame("{\"pid\":1,\"private\":false,\"url\":\"a\",\"title\":\"\xFF\"}") +
-                       report(7, "other"));
+        ASSERT_TRUE(host.send(report(self, "first") + encodeFrame("{nope") +
+                              encodeFrame(std::string(kMaxFrameBytes + 1, '{')) +
+                              encodeFrame("{\"pid\":1,\"private\":false,\"url\":\"a\",\"title\":\"\xFF\"}") +
+                              report(7, "other")));
         ASSERT_TRUE(test::waitUntil([&] { return s.titleOf(7).has_value(); }));
         EXPECT_EQ(s.titleOf(self), std::nullopt) << "the later report of the same host replaces it";
         const auto logged = testing::internal::GetCapturedStderr();
@@ -75,13 +52,12 @@ TEST(BrowserBridgeServer, KeepsEachBrowsersLatestGoodReportWhileItsHostIsConnect
         std::string flood;
         for (int i = 0; i < 10'000; ++i)
             flood += report(self, "tab " + std::to_string(i));
-        send(host, flood);
+        ASSERT_TRUE(host.send(flood));
         ASSERT_TRUE(test::waitUntil([&] { return s.titleOf(self) == "tab 9999"; }));
         const auto latest = s.server.latestReport(self);
         EXPECT_EQ(latest->program, std::filesystem::read_symlink("/proc/self/exe").filename());
         EXPECT_EQ(latest->received, 1000);
         EXPECT_EQ(s.server.latestReports().size(), 1u);
-        ::close(host);
     }
     EXPECT_TRUE(test::waitUntil([&] { return s.server.latestReports().empty(); }))
         << "a host that is gone takes its report with it";
@@ -95,7 +71,7 @@ TEST(BrowserBridgeServer, AnotherUsersProcessCannotReport) {
     if (child == 0) {
         if (::setuid(65534) != 0)
             ::_exit(2);
-        ::_exit(connectTo(s.path) >= 0 ? 1 : 0);
+        ::_exit(TrackerLink(s.path).send(report(1, "x")) ? 1 : 0);
     }
     int status = 0;
     ::waitpid(child, &status, 0);

@@ -9,10 +9,7 @@ using namespace std::string_literals;
 
 TEST(TextEncoding, IllFormedUtf8IsReplacedNeverPassedOn) {
     EXPECT_EQ(sanitizedUtf8("caf\xC3\xA9 \xF0\x9F\x9A\x80"), "caf\xC3\xA9 \xF0\x9F\x9A\x80");  // é, rocket
-    EXPECT_EQ(sanitizedUtf8("a\xFF"
-                            "b"),
-              "a\xEF\xBF\xBD"
-              "b");
+    EXPECT_EQ(sanitizedUtf8("a\xFF"s + "b"), "a\xEF\xBF\xBD"s + "b");
     EXPECT_EQ(sanitizedUtf8("\xC0\xAF"), "\xEF\xBF\xBD\xEF\xBF\xBD");                  // overlong '/'
     EXPECT_EQ(sanitizedUtf8("\xED\xA0\x80"), "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD");  // surrogate
     EXPECT_EQ(sanitizedUtf8("\xF0\x9F\x9A"), "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD");  // cut short
@@ -23,10 +20,7 @@ TEST(TextEncoding, IllFormedUtf8IsReplacedNeverPassedOn) {
 }
 
 TEST(TextEncoding, LegacyWindowNameEncodingsDecode) {
-    EXPECT_EQ(latin1ToUtf8("Gr\xFC\xDF"
-                           "e\0"s),
-              "Gr\xC3\xBC\xC3\x9F"
-              "e");
+    EXPECT_EQ(latin1ToUtf8("Gr\xFC\xDF"s + "e\0"s), "Gr\xC3\xBC\xC3\x9F"s + "e");
     // What xterm sends for "Héllo 🚀 wörld": Latin-1 with a UTF-8 segment.
     EXPECT_EQ(compoundTextToUtf8("H\xE9llo \x1B%G\xF0\x9F\x9A\x80\x1B%@ w\xF6rld"),
               "H\xC3\xA9llo \xF0\x9F\x9A\x80 w\xC3\xB6rld");

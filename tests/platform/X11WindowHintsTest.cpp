@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-
 #include "TestWindows.h"
 #include "XvfbDisplay.h"
 
@@ -20,20 +18,14 @@ TEST(X11WindowHints, MarkEveryDesktopAndSeeACompositingManagerOnlyWhileItOwnsIts
     xcb_connection_t* connection = windows.connection();
     ASSERT_TRUE(windows.connected());
 
-    const xcb_window_t window = windows.create();
+    const xcb_window_t window = windows.create({});
     showOnAllDesktops(connection, window);
-    auto* reply = xcb_get_property_reply(
-        connection,
-        xcb_get_property(connection, 0, window, windows.atom("_NET_WM_DESKTOP"), XCB_ATOM_CARDINAL, 0, 1),
-        nullptr);
-    ASSERT_NE(reply, nullptr);
-    ASSERT_EQ(xcb_get_property_value_length(reply), 4);
-    EXPECT_EQ(*static_cast<const std::uint32_t*>(xcb_get_property_value(reply)), 0xFFFFFFFFu);
-    std::free(reply);
+    EXPECT_EQ(display.run({"xprop", "-id", std::to_string(window), "_NET_WM_DESKTOP"}),
+              "_NET_WM_DESKTOP(CARDINAL) = 4294967295\n");
 
     setenv("DISPLAY", display.name().c_str(), 1);
     EXPECT_FALSE(compositingManagerRunning(connection));
-    const xcb_window_t manager = windows.create();
+    const xcb_window_t manager = windows.create({});
     xcb_set_selection_owner(connection, manager, windows.atom("_NET_WM_CM_S0"), XCB_CURRENT_TIME);
     EXPECT_TRUE(compositingManagerRunning(connection));
     xcb_destroy_window(connection, manager);

@@ -45,12 +45,7 @@ def poll(find, what):
 
 def application():
     import pyatspi
-    desktop = pyatspi.Registry.getDesktop(0)
-    for i in range(desktop.childCount):
-        app = desktop.getChildAtIndex(i)
-        if app is not None and app.name == APP:
-            return app
-    return None
+    return next((app for app in pyatspi.Registry.getDesktop(0) if app is not None and app.name == APP), None)
 
 
 def showing(node):
@@ -64,8 +59,8 @@ def walk(node):
     if node is None or (node.getRoleName() != "application" and not showing(node)):
         return
     yield node
-    for i in range(node.childCount):
-        yield from walk(node.getChildAtIndex(i))
+    for child in node:
+        yield from walk(child)
 
 
 def name_matches(node, name):
@@ -168,10 +163,8 @@ def main(argv):
     elif command == "gone" and len(args) == 2:
         look = find(*args)
         poll(lambda: look() is None, f"{args[0]} '{args[1]}' to go")
-    elif command == "tray" and args in (["activate"], ["tooltip"]):
-        tray(args[0])
-    elif command == "tray" and len(args) == 2 and args[0] == "menu":
-        tray("menu", args[1])
+    elif command == "tray" and (args in (["activate"], ["tooltip"]) or len(args) == 2 and args[0] == "menu"):
+        tray(*args)
     else:
         fail(__doc__)
 

@@ -17,7 +17,6 @@ WATCHER = "org.kde.StatusNotifierWatcher"
 INTROSPECTION = """<node>
   <interface name="org.kde.StatusNotifierWatcher">
     <method name="RegisterStatusNotifierItem"><arg name="service" type="s" direction="in"/></method>
-    <method name="RegisterStatusNotifierHost"><arg name="service" type="s" direction="in"/></method>
     <signal name="StatusNotifierItemRegistered"><arg type="s"/></signal>
     <property name="RegisteredStatusNotifierItems" type="as" access="read"/>
     <property name="IsStatusNotifierHostRegistered" type="b" access="read"/>
@@ -47,10 +46,6 @@ class Watcher(dbus.service.Object):
         with open(self.items_file, "a") as out:
             out.write(name + "\n")
         self.StatusNotifierItemRegistered(name)
-
-    @dbus.service.method(WATCHER, in_signature="s")
-    def RegisterStatusNotifierHost(self, service):
-        pass
 
     @dbus.service.signal(WATCHER, signature="s")
     def StatusNotifierItemRegistered(self, service):

@@ -63,11 +63,10 @@ FakeCompositor::FakeCompositor(Offer offer) : state_(std::make_unique<State>()) 
     listen(listener, 8);
     wl_display_add_socket_fd(s.display, listener);
 
-    static const struct wl_seat_interface seatImplementation = {};
+    // The source only names the seat, never calls it.
     wl_global_create(s.display, &wl_seat_interface, 1, nullptr,
                      [](wl_client* client, void*, uint32_t, uint32_t id) {
-                         wl_resource_set_implementation(wl_resource_create(client, &wl_seat_interface, 1, id),
-                                                        &seatImplementation, nullptr, nullptr);
+                         wl_resource_create(client, &wl_seat_interface, 1, id);
                      });
     if (offer.toplevels) {
         static const struct zwlr_foreign_toplevel_manager_v1_interface managerImplementation = {.stop =

@@ -32,7 +32,6 @@ public:
 
     // Creates and maps a window with this process's pid in _NET_WM_PID. Returns its id, 0 on failure.
     std::uint32_t create(const Properties& properties);
-    std::uint32_t create() { return create(Properties{}); }
     // Asks again for the window to be shown; a window manager still starting may drop the first request.
     void map(std::uint32_t window);
 

@@ -14,6 +14,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <sstream>
 #include <thread>
 
@@ -151,14 +152,9 @@ std::string XvfbDisplay::run(const std::vector<std::string>& argv, std::chrono::
 
 std::vector<std::string> XvfbDisplay::windowsOfClass(const std::string& wmClass,
                                                      std::chrono::milliseconds timeout) {
-    std::stringstream lines(
+    std::istringstream ids(
         run({"xdotool", "search", "--sync", "--onlyvisible", "--class", "^" + wmClass + "$"}, timeout));
-    std::vector<std::string> ids;
-    for (std::string line; std::getline(lines, line);) {
-        if (!line.empty())
-            ids.push_back(line);
-    }
-    return ids;
+    return {std::istream_iterator<std::string>(ids), {}};
 }
 
 void XvfbDisplay::activate(const std::string& windowID) {
