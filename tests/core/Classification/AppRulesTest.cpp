@@ -6,6 +6,7 @@
 #include <string>
 
 #include "ClassificationPrinters.h"
+#include "Platform/AppRoles.h"
 #include "TextCase.h"
 
 namespace larkspan {
@@ -41,6 +42,21 @@ TEST(AppRules, BundleRowsArePrefixesTriedInOrderCaseSensitive) {
     // clang-format on
     for (const auto& [id, expected] : cases)
         EXPECT_EQ(classifyByBundleID(id), expected) << id;
+}
+
+TEST(AppRules, RoleIdentifiersClassifyLikeTheBundleRowOfTheirRole) {
+    // clang-format off
+    const std::pair<std::string_view, std::string_view> roles[] = {
+        {app_role::terminal, "com.apple.Terminal"}, {app_role::mail, "com.apple.mail"},
+        {app_role::calendar, "com.apple.iCal"},     {app_role::tasks, "com.apple.reminders"},
+        {app_role::notes, "com.apple.Notes"},       {app_role::music, "com.apple.Music"},
+        {app_role::video, "com.apple.TV"},          {app_role::settings, "com.apple.systempreferences"},
+        {app_role::monitor, "com.apple.ActivityMonitor"}, {app_role::logs, "com.apple.Console"},
+        {app_role::files, "com.apple.finder"},      {app_role::photos, "com.apple.Photos"},
+    };
+    // clang-format on
+    for (const auto& [role, row] : roles)
+        EXPECT_EQ(classifyByBundleID(role), classifyByBundleID(row)) << role;
 }
 
 // Every keyword reaches its group inside any name and in any case; a name with keywords of two groups
