@@ -114,6 +114,8 @@ Item {
             objectName: "cardList"
             Layout.fillWidth: true
             Layout.fillHeight: true
+            // The scroll bar sits in the page's margin, so the cards line up with the header.
+            Layout.rightMargin: -12
             visible: root.controller.cards.count > 0
             clip: true
             spacing: Theme.spacingLarge
