@@ -106,7 +106,7 @@ private slots:
         QVERIFY(screen.saveScreenshots("timeline", "chapter-panel"));
 
         // Each mode keeps its own selection; the canvas scrolls to the present hour again when it
-        // comes back into view.
+        // comes back into view...
         screen.find("canvas")->setProperty("contentY", 0.0);
         QVERIFY(screen.press("listMode"));
         QVERIFY(!day.timeline.panel().shown);
@@ -123,6 +123,11 @@ private slots:
         QVERIFY(screen.text("panelListTitle").contains(QStringLiteral(" visits \u00B7 ")));
         QVERIFY(screen.saveScreenshots("timeline", "block-panel"));
         QVERIFY(screen.press("timelineMode"));
+        QTRY_COMPARE(screen.find("canvas")->property("contentY").toDouble(), 700.0);
+        // ...and when its window is shown again.
+        screen.find("canvas")->setProperty("contentY", 0.0);
+        screen.window()->hide();
+        screen.window()->show();
         QTRY_COMPARE(screen.find("canvas")->property("contentY").toDouble(), 700.0);
         QVERIFY(day.timeline.panel().isChapter);
         QVERIFY(screen.press("listMode"));

@@ -22,16 +22,17 @@ Flickable {
     onContentYChanged: controller.setViewport(contentY - topInset, contentY - topInset + height)
     onHeightChanged: controller.setViewport(contentY - topInset, contentY - topInset + height)
 
-    // Whenever the canvas comes into view it shows the present hour with one hour above it, on any
-    // day; stepping to another day keeps the place.
+    // Whenever the canvas comes into view (its mode, its tab or its window shown) it shows the
+    // present hour with one hour above it, on any day; stepping to another day keeps the place.
+    readonly property bool inView: visible && Window.visibility !== Window.Hidden
     Timer {
         id: presentHourScroll
         interval: 150
         onTriggered: canvas.contentY = Math.max(0, Math.min(canvas.controller.presentHourY(),
                                                             canvas.contentHeight - canvas.height))
     }
-    onVisibleChanged: if (visible) presentHourScroll.restart()
-    Component.onCompleted: if (visible) presentHourScroll.restart()
+    onInViewChanged: if (inView) presentHourScroll.restart()
+    Component.onCompleted: if (inView) presentHourScroll.restart()
 
     Item {
         x: 4
