@@ -116,8 +116,9 @@ void Database::prepareStore() {
     exec("PRAGMA foreign_keys=ON");
     exec("PRAGMA cache_size=-4000");
     // Direct only: no trigger or view of a tampered file can call back into the program.
-    sqlite3_create_function_v2(db_.get(), "visit_row", -1, SQLITE_UTF8 | SQLITE_DIRECTONLY, nullptr, visitRow,
-                               nullptr, nullptr, nullptr);
+    if (sqlite3_create_function_v2(db_.get(), "visit_row", -1, SQLITE_UTF8 | SQLITE_DIRECTONLY, nullptr,
+                                   visitRow, nullptr, nullptr, nullptr) != SQLITE_OK)
+        throw DBError(DBError::Kind::execFailed, sqlite3_errmsg(db_.get()));
     migrate();
     seedCategories();
 }

@@ -96,7 +96,7 @@ PeriodActivities Database::fetchPeriodActivities(Date from, Date to, std::int64_
             bindValue(stmt, 3, to);
         },
         [&](sqlite3_value** row) {
-            const auto seconds = static_cast<std::int64_t>(sqlite3_value_int(row[4]));
+            const std::int64_t seconds = sqlite3_value_int64(row[4]);
             if (const auto* domain = reinterpret_cast<const char*>(sqlite3_value_text(row[5]));
                 domain != nullptr && domain[0] != '\0') {
                 const auto found = domainSeconds.find(std::string_view(domain));

@@ -19,8 +19,11 @@ Flickable {
     boundsBehavior: Flickable.StopAtBounds
     ScrollBar.vertical: ScrollBar {}
 
-    onContentYChanged: controller.setViewport(contentY - topInset, contentY - topInset + height)
-    onHeightChanged: controller.setViewport(contentY - topInset, contentY - topInset + height)
+    function reportViewport() {
+        controller.setViewport(contentY - topInset, contentY - topInset + height)
+    }
+    onContentYChanged: reportViewport()
+    onHeightChanged: reportViewport()
 
     // Whenever the canvas comes into view (its mode, its tab or its window shown) it shows the
     // present hour with one hour above it, on any day; stepping to another day keeps the place.
