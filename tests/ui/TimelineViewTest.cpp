@@ -200,6 +200,7 @@ private slots:
         TimelineController& timeline = day.timeline;
         QuickScreen& screen = day.screen;
         QVERIFY(screen.find("nowLine")->isVisible());
+        QTRY_COMPARE(screen.find("canvas")->property("contentY").toDouble(), 700.0);
         QVERIFY(screen.saveScreenshots("timeline", "today-canvas"));
         timeline.setListMode(true);
         QVERIFY(screen.press("filter->5m"));
