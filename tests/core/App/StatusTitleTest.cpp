@@ -37,8 +37,6 @@ TEST(StatusTitle, SegmentsOfEveryIconLabelTimerAndPendingCase) {
         {"unknown category id: the stopwatch and the application", session("Obscure App", 999), 0, off, {{"\u23F1 Obscure App"}}},
         // An away row recategorised by the user keeps "Away" but takes its new category's icon.
         {"away span under another category", session("Away", 12), 0, off, {{"\U0001F3B5 Away"}}},
-        {"focus running", session("Code", 1), 0, {true, false, true, "24:59"},
-         {{"\U0001F4BB Coding"}, timerSegment("  \U0001F345 24:59")}},
         {"break paused: the cup, the pause mark, the secondary colour", session("Code", 1), 0, {true, true, false, "04:10"},
          {{"\U0001F4BB Coding"}, timerSegment("  \u2615\u23F8 04:10", TitleColor::secondaryLabel)}},
         {"everything at once", session("Away", 15), 12, {true, false, true, "100:00"},

@@ -56,7 +56,6 @@ TEST_F(ActivityQueries, WritesCorrectAndDeleteRows) {
     // A category answer clears needs_approval even when not approving.
     db.updateActivityCategory(id, 7, false);
     EXPECT_FALSE(db.fetchActivity(id)->needsApproval);
-    EXPECT_FALSE(db.fetchActivity(id)->isApproved);
     EXPECT_EQ(db.fetchActivity(id)->categoryID, 7);
     // A failing write is swallowed and leaves the row as it was.
     db.updateActivityCategory(id, 999, true);
@@ -102,22 +101,6 @@ TEST_F(ActivityQueries, PendingMeansThirtySecondsOrMoreAwaitingAnAnswer) {
     EXPECT_EQ(db.pendingApprovalCount(), 2);
     db.updateActivityEnd(short29, 130, 30);
     EXPECT_EQ(db.pendingApprovalCount(), 3);
-}
-
-TEST_F(ActivityQueries, TopCategoriesCountApprovedRowsOnly) {
-    auto add = [&](std::int64_t category, bool approved, int times) {
-        for (int i = 0; i < times; ++i) {
-            ActivityRecord record = activity(1000 + i, 10);
-            record.categoryID = category;
-            record.isApproved = approved;
-            db.insertActivity(record);
-        }
-    };
-    add(3, true, 2);
-    add(5, true, 4);
-    add(9, false, 9);
-    add(1, true, 1);
-    EXPECT_EQ(db.fetchTopCategoryIDs(), (std::vector<std::int64_t>{5, 3, 1}));
 }
 
 TEST_F(ActivityQueries, LearnedRulesKeepTheLastAnswerPerTypeAndKey) {

@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "Classification/CategoryEngine.h"
 #include "Data/Database.h"
-#include "Platform/AppRoles.h"
 #include "SqliteFile.h"
 #include "TempDir.h"
 
@@ -26,21 +24,13 @@ std::string startUpState(const std::filesystem::path& file) {
                "sort_order, ';') FROM categories");
 }
 
-TEST(DatabaseCore, FreshFileGetsTheSchemaTheSeededCatalogueAndWalAndHelpersReportErrors) {
+TEST(DatabaseCore, FreshFileGetsTheSeededCatalogueAndWalAndHelpersReportErrors) {
     TempDir dir;
     Database db(dir / "tracker.db");
 
     EXPECT_EQ(db.fetchCategories(), Category::seeded());
     SqliteFile raw(dir / "tracker.db");
     EXPECT_EQ(raw.text("PRAGMA journal_mode"), "wal");
-    // Six tables and five indexes; a query that misses one fails in the tests of its own.
-    EXPECT_EQ(raw.text("SELECT group_concat(type || ' ' || count, ', ') FROM (SELECT type, COUNT(*) AS count "
-                       "FROM sqlite_master WHERE name NOT LIKE 'sqlite_%' GROUP BY type ORDER BY type)"),
-              "index 5, table 6");
-    // Foreign keys are enforced: a rule may not name a category that does not exist.
-    EXPECT_THROW(
-        db.exec("INSERT INTO learned_rules (rule_type, rule_key, category_id) VALUES ('app_name', 'x', 99)"),
-        DBError);
     // The helpers report SQLite's errors; only the row reader swallows them.
     EXPECT_THROW(db.exec("SELEC 1"), DBError);
     EXPECT_THROW(db.query("SELECT missing FROM nowhere", nullptr, [](sqlite3_stmt*) { return 0; }), DBError);
@@ -90,7 +80,7 @@ TEST(DatabaseCore, OriginalActivitiesTableGainsManualAndNotesColumns) {
     EXPECT_EQ(db.fetchActivity(id), manual);
 }
 
-TEST(DatabaseCore, BorrowedIdentifiersBecomeRoleIdentifiersAndTheirRulesStillDecide) {
+TEST(DatabaseCore, BorrowedIdentifiersBecomeRoleIdentifiers) {
     TempDir dir;
     { Database fresh(dir / "tracker.db"); }
     {
@@ -115,12 +105,6 @@ TEST(DatabaseCore, BorrowedIdentifiersBecomeRoleIdentifiersAndTheirRulesStillDec
               "bundle_id org.larkspan.role.terminal 11, app_name com.apple.Terminal 12, "
               "bundle_id org.larkspan.role.files 10");
     EXPECT_EQ(raw.integer("PRAGMA user_version"), 1);
-
-    CategoryEngine engine;
-    engine.learnedRules = db.fetchLearnedRules();
-    EXPECT_EQ(
-        engine.classify("Konsole", std::string(app_role::terminal), std::nullopt, std::nullopt, std::nullopt),
-        (ClassificationResult{11, 0.99}));
 }
 
 // Every value is bound: texts that would break a statement written as text are stored verbatim.
@@ -142,30 +126,6 @@ TEST(DatabaseCore, HostileTextsRoundTripVerbatimAndTheSchemaStays) {
     }
     EXPECT_EQ(raw.text("SELECT group_concat(sql, ';') FROM sqlite_master"), schema);
     EXPECT_EQ(raw.integer("SELECT COUNT(*) FROM categories"), 21);
-}
-
-TEST(DatabaseCore, BooleanColumnsReadTrueOnlyForExactlyOne) {
-    TempDir dir;
-    Database db(dir / "tracker.db");
-    ActivityRecord record;
-    record.appName = "Editor";
-    record.needsApproval = record.isApproved = record.isManual = true;
-    const auto id = db.insertActivity(record);
-    db.insertTodo("write", 0);
-    SqliteFile raw(dir / "tracker.db");
-    // 2, -1 and 2^32 + 1 (whose low 32 bits are 1) are all false.
-    for (const char* value : {"2", "-1", "4294967297"}) {
-        SCOPED_TRACE(value);
-        raw.exec(std::string("UPDATE activities SET needs_approval=") + value + ", is_approved=" + value +
-                 ", is_manual=" + value + " WHERE id=" + std::to_string(id) +
-                 "; UPDATE todo_items SET is_completed=" + value +
-                 "; UPDATE categories SET is_system=" + value + " WHERE id=1");
-        const ActivityRecord read = db.fetchActivity(id).value();
-        EXPECT_FALSE(read.needsApproval || read.isApproved || read.isManual ||
-                     db.fetchTodayTodos(0).at(0).isCompleted || db.fetchCategories().at(0).isSystem);
-    }
-    raw.exec("UPDATE todo_items SET is_completed=1");
-    EXPECT_TRUE(db.fetchTodayTodos(0).at(0).isCompleted);
 }
 
 }  // namespace

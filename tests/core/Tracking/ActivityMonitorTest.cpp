@@ -50,7 +50,6 @@ TEST_F(ActivityMonitorTest, StartPollsAtOnceEveryFourSecondsAndOnActivationUntil
     bringToFront(kEditor);
     ASSERT_EQ(published.size(), 3u);
     EXPECT_EQ(published[2]->appName, "Text Editor");
-    EXPECT_EQ(published[2]->windowTitle, std::nullopt);  // unreadable title stays absent
 
     monitor->stop();
     EXPECT_FALSE(workspace.hasActivationHandler());
@@ -60,14 +59,11 @@ TEST_F(ActivityMonitorTest, StartPollsAtOnceEveryFourSecondsAndOnActivationUntil
 }
 
 TEST_F(ActivityMonitorTest, IdlenessStartsStrictlyAboveTheThresholdOfTheFrontApplication) {
-    const RunningApplication canary{"com.google.Chrome.canary", "Chrome Canary", 21};
-    const std::tuple<RunningApplication, double, bool> cases[] = {
-        {kTerminal, 120.0, false},
-        {kTerminal, 120.001, true},
-        // A listed browser, by prefix, waits 300 s.
-        {canary, 300.0, false},
-        {canary, 300.5, true},
-    };
+    // A listed browser waits 300 s.
+    const std::tuple<RunningApplication, double, bool> cases[] = {{kTerminal, 120.0, false},
+                                                                  {kTerminal, 120.001, true},
+                                                                  {kChrome, 300.0, false},
+                                                                  {kChrome, 300.5, true}};
     scripts.answerAlways("https://example.com/|||Example");
     for (const auto& [front, idleSeconds, idle] : cases) {
         workspace.setFrontmost(front);
@@ -94,18 +90,6 @@ TEST_F(ActivityMonitorTest, TheFirstActiveCaptureAfterIdlenessReportsTheLastIdle
     EXPECT_FALSE(capture()->isIdle);
     capture();
     EXPECT_EQ(returns, std::vector<double>{7'200});  // only the first
-
-    // Idle, then a capture with nothing in front (which publishes nothing), then active: the return is lost.
-    workspace.setIdleSeconds(500);
-    capture();
-    workspace.setIdleSeconds(1);
-    workspace.setFrontmost(std::nullopt);
-    const auto before = published.size();
-    capture();
-    EXPECT_EQ(published.size(), before);
-    workspace.setFrontmost(kTerminal);
-    capture();
-    EXPECT_EQ(returns.size(), 1u);
 }
 
 TEST_F(ActivityMonitorTest, ABrowserSampleCarriesItsTab) {

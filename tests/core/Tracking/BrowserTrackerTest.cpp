@@ -28,9 +28,6 @@ TEST_F(BrowserTrackerTest, EachBrowserGetsItsFamilysScriptNamedAfterTheRunningAp
         EXPECT_EQ(recogniseTabScript(tracker.tabScript(bundle)), expected) << bundle;
     workspace.setRunning({{"com.vivaldi.Vivaldi", std::nullopt, 9}});
     EXPECT_EQ(tracker.tabScript("com.vivaldi.Vivaldi"), chromiumFamilyTabScript("Google Chrome"));
-    EXPECT_TRUE(BrowserTracker::isBrowser("com.google.Chrome.canary"));
-    for (const char* id : {"com.google.chrome", "com.google.Chrome.dev", ""})
-        EXPECT_FALSE(BrowserTracker::isBrowser(id)) << id;
 }
 
 TEST_F(BrowserTrackerTest, AnAnswerIsServedFromTheCacheForLessThanThreeSecondsButNeverAfterAFailure) {
@@ -69,30 +66,18 @@ TEST_F(BrowserTrackerTest, AnswersAreSplitAtTheSeparatorAndTrimmed) {
               (TabInfo{"https://www.example.com/a", "Example page", "example.com"}));
     // A third part, even a title holding the separator, is dropped.
     EXPECT_EQ(tabFor("https://a.org/|||Left|||Right"), (TabInfo{"https://a.org/", "Left", "a.org"}));
-    // Firefox's pseudo address makes every page one domain.
-    EXPECT_EQ(tabFor("firefox://active|||Mozilla Firefox"),
-              (TabInfo{"firefox://active", "Mozilla Firefox", "active"}));
     // Titles of any size and encoding pass through unchanged.
     std::string odd = "\xF0\x9F\x8D\x85 \xD7\xA9\xD7\x9C\xD7\x95\xD7\x9D \xC3\x28 ";
     odd += std::string(1, '\0') + std::string(100'000, 'x');
     EXPECT_EQ(tabFor("about:blank|||" + odd)->title, odd);
 }
 
-TEST_F(BrowserTrackerTest, ScriptsAreCompiledOncePerTextAndFailedCompilesAreRetried) {
+TEST_F(BrowserTrackerTest, AFailedCompileIsRetried) {
     scripts.answerAlways("about:blank|||New Tab");
-    // Neither browser runs, so both use the same default text.
-    ASSERT_TRUE(tracker.getActiveTab("com.google.Chrome"));
-    ASSERT_TRUE(tracker.getActiveTab("com.microsoft.edgemac"));
-    clock.advance(5);
-    ASSERT_TRUE(tracker.getActiveTab("com.google.Chrome"));
-    EXPECT_EQ(scripts.compileCount(), 1);
-    EXPECT_EQ(scripts.runCount(), 3);
-
     scripts.refuseCompiles(true);
     EXPECT_FALSE(tracker.getActiveTab("com.apple.Safari"));
     scripts.refuseCompiles(false);
     EXPECT_TRUE(tracker.getActiveTab("com.apple.Safari"));
-    EXPECT_EQ(scripts.compileCount(), 3);
 }
 
 TEST(BrowserTrackerDomain, HostWithoutLeadingWwwElseTheTextUnchanged) {
@@ -100,11 +85,9 @@ TEST(BrowserTrackerDomain, HostWithoutLeadingWwwElseTheTextUnchanged) {
         {"about:blank", "about:blank"},  // no host
         {"firefox://active", "active"},  // any scheme with an authority
         {"https://www.example.com/a", "example.com"},
-        {" https://www.example.com/a ", " https://www.example.com/a "},  // untrimmed does not parse
-        {"https://docs.www.example.com/", "docs.www.example.com"},       // only a leading "www." goes
-        {"https://WWW.Example.COM/", "WWW.Example.COM"},  // case is kept, so "WWW." is no prefix
+        {"https://docs.www.example.com/", "docs.www.example.com"},  // only a leading "www." goes
+        {"https://WWW.Example.COM/", "WWW.Example.COM"},            // case is kept, so "WWW." is no prefix
         {"http://user:pw@www.host.net:8080/p?q#f", "host.net"},
-        {"file:///etc/hosts", "file:///etc/hosts"},
         {"", ""},
         {std::string("https://a.com/\0x", 16), std::string("https://a.com/\0x", 16)},
     };

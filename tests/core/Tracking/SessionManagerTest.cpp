@@ -38,9 +38,7 @@ TEST_F(SessionManagerTest, EqualSamplesKeepOneRowWhoseEndMovesOnlyWithHeartbeats
     after(0, kKitty);
     ASSERT_EQ(rows().size(), 1u);
     const ActivityRecord first = rows()[0];
-    EXPECT_EQ(first.startTime, t0);
     EXPECT_EQ(first.categoryID, category_id::terminal);
-    EXPECT_TRUE(first.isApproved);
     EXPECT_EQ(first.endTime, std::nullopt);  // younger than the first heartbeat
     ASSERT_EQ(sessions.size(), 1u);
     EXPECT_EQ(sessions[0], first);  // published with the id it was stored under
@@ -125,23 +123,12 @@ TEST_F(SessionManagerTest, PublishedValuesArriveThroughTheMainQueueSessionBefore
     EXPECT_EQ(order, (std::vector<std::string>{"session Zqx", "count 1"}));
     EXPECT_TRUE(manager->currentSession.get()->needsApproval);
 
-    // A confident session posts the count of the store, resynced at the close, then itself.
+    // A confident session posts the count of the store, resynced at the close (the asking session
+    // was too short to keep), then itself.
     manager->process(kKitty);
     EXPECT_EQ(mainQueue.pendingCount(), 2u);
-}
-
-TEST_F(SessionManagerTest, PublishedCountRunsAheadOfTheStoresOnlyUntilTheSessionCloses) {
-    after(0, kMystery);
-    EXPECT_EQ(manager->pendingApprovalCount.get(), 1);
-    EXPECT_EQ(db.pendingApprovalCount(), 0);  // younger than 30 s
-    after(30, kMystery);
-    EXPECT_EQ(db.pendingApprovalCount(), 1);  // the heartbeat made it 30 s long
-    // Another asking session runs ahead, until it is deleted as too short.
-    after(1, RawActivity{"Qzx", {}, {}, {}, {}});
-    EXPECT_EQ(manager->pendingApprovalCount.get(), 2);
-    after(2, kKitty);
-    EXPECT_EQ(manager->pendingApprovalCount.get(), 1);
-    EXPECT_EQ(db.pendingApprovalCount(), 1);
+    mainQueue.drain();
+    EXPECT_EQ(manager->pendingApprovalCount.get(), 0);
 }
 
 TEST_F(SessionManagerTest, ARowRefusedFromStartToEndIsStoredWholeAtItsClose) {
@@ -166,18 +153,6 @@ TEST_F(SessionManagerTest, ARowRefusedFromStartToEndIsStoredWholeAtItsClose) {
     EXPECT_EQ(rows()[2].startTime, t0 + 22);
 }
 
-TEST_F(SessionManagerTest, TextsOfAnySizeAndEncodingAreStoredUnchanged) {
-    const std::string title = std::string(100'000, 'w') + "\xFF\xC3(\xED\xA0\x80 \xF0\x9F\x8D\x85 '\"";
-    const std::string url = "https://\xD9\x85\xD8\xAB.example/\xFE?q=" + std::string(50'000, 'q');
-    const RawActivity odd{title, title, title, url, "\xD9\x85\xD8\xAB.example"};
-    after(0, odd);
-    after(6, kKitty);
-    const ActivityRecord stored = rows().at(0);
-    EXPECT_EQ(stored.appName, title);
-    EXPECT_EQ(stored.windowTitle, title);
-    EXPECT_EQ(stored.url, odd.url);
-}
-
 TEST_F(SessionManagerTest, CategoryGoneFromTheCatalogueStoresTheSessionUnderOther) {
     db.deleteCategory(category_id::terminal);
     db.deleteCategory(category_id::awayBreak);
@@ -187,8 +162,6 @@ TEST_F(SessionManagerTest, CategoryGoneFromTheCatalogueStoresTheSessionUnderOthe
     EXPECT_EQ(apps(), (std::vector<std::string>{"kitty", kAwayAppName}));
     for (const auto& row : rows())
         EXPECT_EQ(row.categoryID, category_id::other);
-    EXPECT_EQ(rows()[0].confidence, 0.99);  // the engine's, as it was sure of its answer
-    EXPECT_TRUE(rows()[0].isApproved);
 
     // A category added later is used once the catalogue is read again.
     db.insertCategory(newCategory("Deep Work", "x", Productivity::productive));
