@@ -47,10 +47,5 @@ TEST(Dashboard, LiveCardShowsTheSessionsCategoryOrAGreyStopwatch) {
     EXPECT_EQ(liveSessionCard(stray, catalogue), unknown);
 }
 
-TEST(Dashboard, ReviewButtonShowsFromOneWaitingActivity) {
-    EXPECT_EQ(reviewButton(0), std::nullopt);
-    EXPECT_EQ(reviewButton(1204), (ReviewButton{"Review Activities", "1204 need categorizing"}));
-}
-
 }  // namespace
 }  // namespace larkspan

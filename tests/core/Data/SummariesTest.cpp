@@ -71,6 +71,7 @@ TEST_F(Summaries, MonthHasOneSummaryPerLocalDay) {
     EXPECT_EQ(march[10], db.daySummary(kMarch11Midnight));
     EXPECT_EQ(march[10].totalSeconds, 12);
     EXPECT_TRUE(db.monthSummaries(2024, 13).empty());
+    EXPECT_TRUE(db.monthSummaries(2024, 0).empty());
 }
 
 }  // namespace

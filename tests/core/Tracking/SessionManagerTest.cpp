@@ -39,6 +39,7 @@ TEST_F(SessionManagerTest, EqualSamplesKeepOneRowWhoseEndMovesOnlyWithHeartbeats
     ASSERT_EQ(rows().size(), 1u);
     const ActivityRecord first = rows()[0];
     EXPECT_EQ(first.categoryID, category_id::terminal);
+    EXPECT_TRUE(first.isApproved);
     EXPECT_EQ(first.endTime, std::nullopt);  // younger than the first heartbeat
     ASSERT_EQ(sessions.size(), 1u);
     EXPECT_EQ(sessions[0], first);  // published with the id it was stored under
