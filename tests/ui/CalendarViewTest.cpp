@@ -31,11 +31,9 @@ private slots:
 
         // The present month: today ringed with its hours, the summary and the bar filled.
         QCOMPARE(screen.text("monthTitle"), QStringLiteral("November 2025"));
-        QVERIFY(screen.find("nextMonth")->isEnabled());
         QCOMPARE(cellText(screen, "day-23", "hours"), QStringLiteral("2h"));
         QVERIFY(screen.accessibleName("day-23").startsWith(
             QStringLiteral("Sunday 23 November: 1h 55m, 100 % productive")));
-        QCOMPARE(screen.accessibleName("day-24"), QStringLiteral("Monday 24 November: in the future"));
         QVERIFY(screen.find("categoryBar")->isVisible());
         QVERIFY(screen.saveScreenshots("calendar", "present-month"));
 
@@ -53,14 +51,12 @@ private slots:
         QVERIFY(!screen.find("nextMonth")->isEnabled());
         rig.keys(calendar, {Qt::Key_Home, Qt::Key_Left, Qt::Key_Left});
         QCOMPARE(screen.text("monthTitle"), QStringLiteral("September 2025"));
-        QVERIFY(!screen.accessibleName("day-1").endsWith(QStringLiteral("nothing tracked")));
         QVERIFY(screen.saveScreenshots("calendar", "past-month"));
 
         // Before the history began: zeros, no bar.
         rig.keys(calendar, {Qt::Key_Left, Qt::Key_Left, Qt::Key_Left, Qt::Key_Left});
         QCOMPARE(screen.text("monthTitle"), QStringLiteral("May 2025"));
         QCOMPARE(screen.accessibleName("stat-Productive"), QStringLiteral("Productive: 0%"));
-        QCOMPARE(screen.accessibleName("stat-Pomodoros"), QStringLiteral("Pomodoros: \U0001F345 0"));
         QVERIFY(!screen.find("categoryBar")->isVisible());
         QVERIFY(screen.saveScreenshots("calendar", "empty-month"));
     }

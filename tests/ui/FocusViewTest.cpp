@@ -33,9 +33,6 @@ private slots:
         QVERIFY(tab.load());
         QVERIFY(tab.screen.visible("emptyTasks"));
         QVERIFY(!tab.screen.visible("stopButton") && !tab.screen.visible("skipButton"));
-        QCOMPARE(tab.screen.text("mainButton"), QStringLiteral("Start"));
-        QCOMPARE(tab.screen.text("todayCount"), QStringLiteral("0 pomodoros today"));
-        QVERIFY(!tab.screen.visible("resetCountButton"));
         QVERIFY(tab.screen.saveScreenshots("focus", "idle-empty"));
 
         // Spaces only: "Add" stays disabled and Return keeps the line open; Escape cancels it.
@@ -62,13 +59,11 @@ private slots:
         tab.timers.advance(300);
         QCOMPARE(tab.screen.text("activeTaskTitle"), QStringLiteral("Write the report"));
         QCOMPARE(tab.screen.text("clockTime"), QStringLiteral("20:00"));
-        QCOMPARE(tab.screen.accessibleName("clockRing"), QStringLiteral("Focus, 20:00 left, 20 % done"));
         QVERIFY(tab.screen.saveScreenshots("focus", "running"));
 
         QVERIFY(tab.screen.press("mainButton"));
-        QCOMPARE(
-            tab.screen.text("stopButton") + tab.screen.text("mainButton") + tab.screen.text("skipButton"),
-            QStringLiteral("StopStartSkip"));
+        QCOMPARE(tab.pomodoro.runState.get(), PomodoroTimer::RunState::paused);
+        QVERIFY(tab.screen.visible("stopButton") && tab.screen.visible("skipButton"));
         QVERIFY(!tab.screen.visible("activeTask"));
         QVERIFY(tab.screen.saveScreenshots("focus", "paused"));
     }
@@ -89,7 +84,6 @@ private slots:
         }
         tab.pomodoro.todayCount.set(3);
         QVERIFY(tab.load());
-        QCOMPARE(tab.screen.text("todayTime"), QStringLiteral("\u2248 75m focused"));
         QVERIFY(tab.screen.visible("clearDoneButton"));
         QTRY_VERIFY(tab.screen.find("taskTitle0"));
         const QQuickItem* longTitle = tab.screen.find("taskTitle0")->childItems().front();

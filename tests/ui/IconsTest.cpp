@@ -1,5 +1,5 @@
 // The symbol table: every symbol has a bundled drawing of its own that renders in the tint asked for,
-// an unknown or malformed name quietly yields nothing, and a view draws symbols in light and dark.
+// and an unknown or malformed name quietly yields nothing.
 #include <QFile>
 #include <QSet>
 #include <QSvgRenderer>
@@ -10,31 +10,6 @@
 #include "ui/SymbolImageProvider.h"
 
 using namespace larkspan;
-
-namespace {
-
-// Every symbol in the text colour, and an unknown symbol that must stay empty.
-const QByteArray scene = R"(
-import QtQuick
-import QtQuick.Controls
-import Larkspan
-
-Pane {
-    required property var names
-    padding: 12
-    Grid {
-        columns: 12
-        spacing: 10
-        Repeater {
-            model: names
-            SymbolIcon { objectName: "symbol-" + modelData; name: modelData; size: 24 }
-        }
-        SymbolIcon { objectName: "unknown"; name: "no.such.symbol"; size: 24 }
-    }
-}
-)";
-
-}  // namespace
 
 class IconsTest : public QObject {
     Q_OBJECT
@@ -78,24 +53,6 @@ private slots:
         for (const char* id : {"", "/", "nope/ff000000", "play.fill", "play.fill/zz", "/ff000000"})
             QVERIFY2(provider.requestImage(QString::fromUtf8(id), &size, {24, 24}).isNull(), id);
         QCOMPARE(provider.requestImage("play.fill/ff00ff00", &size, {18, 18}).size(), QSize(18, 18));
-    }
-
-    void viewsDrawSymbolsInBothSchemes() {
-        QuickScreen screen;
-        QVERIFY(screen.loadText(scene, {{"names", Icons::names()}}, {440, 300}));
-        for (ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
-            screen.setColorScheme(scheme);
-            const QImage shot = screen.grab();
-            const QColor ink = schemePalette(scheme).color(QPalette::WindowText);
-            auto inked = [&](const QString& objectName) {
-                const QQuickItem* item = screen.find(objectName);
-                return coveredPixels(shot, item->mapRectToScene(QRectF(0, 0, 24, 24)).toRect(), ink);
-            };
-            for (const QString& name : Icons::names())
-                QVERIFY2(inked("symbol-" + name) > 24, qPrintable(name));
-            QCOMPARE(inked("unknown"), 0);
-        }
-        QVERIFY(screen.saveScreenshots("icons", "all"));
     }
 };
 

@@ -1,7 +1,5 @@
 // The Qt implementations of the seams and the process's own plumbing, on a real event loop: the main
-// queue, the timer, the settings file, a screen's background loads, the single instance and the
-// termination signals.
-#include <signal.h>
+// queue, the timer, the settings file, a screen's background loads and the single instance.
 #include <QCoreApplication>
 #include <QFile>
 #include <QSignalSpy>
@@ -17,7 +15,6 @@
 #include "Platform/Qt/QtRepeatingTimer.h"
 #include "Platform/Qt/SettingsStore.h"
 #include "Platform/Qt/SingleInstance.h"
-#include "Platform/Qt/TerminationSignals.h"
 #include "ui/BackgroundLoad.h"
 
 using namespace larkspan;
@@ -123,17 +120,6 @@ private slots:
         }
         SingleInstance next(dir.path());
         QVERIFY(next.claim());
-    }
-
-    // SIGTERM and SIGINT arrive as a signal on the event loop instead of killing the process.
-    void terminationSignalsReachTheEventLoopInOrder() {
-        TerminationSignals signals_;
-        QSignalSpy requested(&signals_, &TerminationSignals::terminationRequested);
-        ::raise(SIGTERM);
-        ::raise(SIGINT);
-        QTRY_COMPARE(requested.count(), 2);
-        QCOMPARE(requested.at(0).at(0).toInt(), SIGTERM);
-        QCOMPARE(requested.at(1).at(0).toInt(), SIGINT);
     }
 };
 

@@ -84,13 +84,10 @@ private slots:
         day.fill();
         QVERIFY(day.load());
         QuickScreen& screen = day.screen;
-        QVERIFY(screen.text("summaryText").contains(QStringLiteral(" tracked \u00B7 ")));
-        QVERIFY(day.timeline.header().canStepForward);
 
         // The canvas opens at the hour before the present one (08:00), also on another day, and holds
         // items only near the visible rows.
         auto* chapters = day.timeline.chapters();
-        QVERIFY(chapters->rowCount() > 0);
         const double firstY = rowValue(chapters, 0, "frameY").toDouble();
         QVERIFY(firstY >= 600 && firstY < 1400);
         QTRY_COMPARE(screen.find("canvas")->property("contentY").toDouble(), 700.0);
@@ -101,7 +98,6 @@ private slots:
         const QString boxName = "chapter-" + rowValue(chapters, box, "chapterID").toString();
         QVERIFY(screen.press(boxName));
         QTRY_VERIFY(screen.find("detailPanel")->width() > 289);
-        QCOMPARE(screen.text("detailValue-Start").isEmpty(), false);
         QVERIFY(day.timeline.panel().isChapter);
         QVERIFY(screen.saveScreenshots("timeline", "chapter-panel"));
 
@@ -120,7 +116,6 @@ private slots:
         showRow(screen, merged);
         QVERIFY(screen.press("row" + QString::number(merged)));
         QTRY_VERIFY(screen.find("detailPanel")->width() > 289);
-        QVERIFY(screen.text("panelListTitle").contains(QStringLiteral(" visits \u00B7 ")));
         QVERIFY(screen.saveScreenshots("timeline", "block-panel"));
         QVERIFY(screen.press("timelineMode"));
         QTRY_COMPARE(screen.find("canvas")->property("contentY").toDouble(), 700.0);
@@ -150,7 +145,6 @@ private slots:
         QVERIFY(rows->rowCount() > 5);
         day.keys(day.timeline, {Qt::Key_Home});
         QVERIFY(!day.timeline.header().canStepForward);
-        QVERIFY(!screen.find("nextDay")->isEnabled());
 
         // The sheets write what was typed, back on the busy day.
         day.keys(day.timeline, {Qt::Key_Left});
@@ -158,7 +152,6 @@ private slots:
         showRow(screen, pending);
         QVERIFY(screen.press("editRow" + QString::number(pending)));
         QTRY_VERIFY(screen.visible("editSheetSave"));
-        QCOMPARE(screen.text("sheetDuration"), QStringLiteral("3m"));
         QVERIFY(screen.saveScreenshots("timeline", "edit-sheet"));
         day.timeline.setSheetMinute(1, 0);  // 13:00, the start: nothing to save
         QVERIFY(!screen.find("editSheetSave")->isEnabled());
@@ -178,7 +171,6 @@ private slots:
         QTRY_VERIFY(screen.visible("manualSheetSave"));
         QVERIFY(screen.saveScreenshots("timeline", "manual-sheet"));
         QVERIFY(screen.press("preset2"));
-        QCOMPARE(screen.text("sheetDuration"), QStringLiteral("30m"));
         day.timeline.setSheetTitle("Reading: Clean Code \U0001F4D6");
         // A read-only store refuses the row: the sheet stays with what was typed.
         day.db.exec("PRAGMA query_only = 1");

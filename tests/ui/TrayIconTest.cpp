@@ -100,10 +100,6 @@ private slots:
         // The entries are asked for again each time the menu opens.
         QCOMPARE(s.asked, 3);
         const auto actions = s.tray.menu().actions();
-        QCOMPARE(actions[1]->text(), QString::fromUtf8("Review 2 Pending\u2026"));
-        // A tray menu shows no shortcut, since none would work.
-        for (const QAction* action : actions)
-            QVERIFY(action->shortcut().isEmpty());
         for (int i : {0, 1, 5})
             actions[i]->trigger();
         QCOMPARE(dashboard.count(), 2);
