@@ -73,6 +73,7 @@ TEST_F(AppDelegateTest, AReturnPromptsOnlyAfterMoreThanFiveMinutesAndSharesTheLi
     EXPECT_TRUE(presenter.idlePrompts.empty());
     notifications.post(userReturnedFromIdle, {{userReturnedFromIdleSecondsKey, 300.5}});
     ASSERT_EQ(presenter.idlePrompts.size(), 1u);
+    EXPECT_EQ(presenter.idlePrompts[0].idleDuration, 300.5);
 
     // The welcome-back prompt spent the limit for both kinds.
     insertPending(kStart - 600);

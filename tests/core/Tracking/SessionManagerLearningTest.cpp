@@ -50,6 +50,7 @@ TEST_F(SessionManagerLearningTest, AnswerOnAPlainDomainTeachesDomainBundleAndNam
     const auto wiki = page("https://Wiki.Example.org/a", "Wiki.Example.org", "Team wiki");
     const auto id = visit(wiki);
     ASSERT_EQ(manager->nextPendingApproval()->id, id);
+    const auto other = visit(page("https://q.example.net/", "q.example.net", "Q"));
     manager->resolveApproval(id, category_id::research);
     const auto row = *db.fetchActivity(id);
     EXPECT_TRUE(row.categoryID == category_id::research && row.isApproved && !row.needsApproval);
@@ -57,6 +58,8 @@ TEST_F(SessionManagerLearningTest, AnswerOnAPlainDomainTeachesDomainBundleAndNam
     EXPECT_EQ(rules(), (std::set<Rule>{{"domain", "Wiki.Example.org", category_id::research},
                                        {"bundle_id", "com.google.Chrome", category_id::research},
                                        {"app_name", "Google Chrome", category_id::research}}));
+    // Other rows, even pending ones, keep what they have: the learning acts on new sessions.
+    EXPECT_TRUE(db.fetchActivity(other)->needsApproval);
     // The next visit is decided without asking, and so is any plain page of that browser.
     EXPECT_EQ(nextSessionOf(wiki), std::make_tuple(std::optional(category_id::research), 0.99, false));
     EXPECT_EQ(nextSessionOf(page("https://new.example.com/", "new.example.com", "New")),
