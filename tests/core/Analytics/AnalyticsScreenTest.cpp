@@ -25,12 +25,7 @@ std::vector<ActivityTotal> sessions(int count) {
     return records;
 }
 
-TEST(AnalyticsScreen, TilesOfAFailedStoreAndOfAShortDay) {
-    std::vector<std::string> values;
-    for (const StatTile& tile : statTiles({}))
-        values.push_back(tile.value);
-    EXPECT_EQ(values, (std::vector<std::string>{"0m", "0m · 0%", "🍅 0", "0", "0"}));
-
+TEST(AnalyticsScreen, TilesAndBarsOfAShortDay) {
     // Five minutes read as minutes, and the bar stays visible beside a long day.
     ScopedTimeZone zone{"Europe/Berlin"};
     const AnalyticsPage page = pageOf(
@@ -54,9 +49,6 @@ TEST(AnalyticsScreen, SectionsFollowTheRangeAndTheFigures) {
                                 false, "6 sessions", "Longest: 30m", "+ 1 more sessions",           false,
                                 false, false};
     EXPECT_EQ(sectionsOf(6, TimeRange::day), day);
-    AnalyticsSections today = day;
-    today.dayBar = false;
-    EXPECT_EQ(sectionsOf(6, TimeRange::today), today);
 
     // Only unproductive work: every empty text of the productive sections.
     const AnalyticsSections idle = analyticsSections(

@@ -53,11 +53,6 @@ TEST(CategoryEngine, LearnedRulesOfPlainActivitiesInOrderDomainBundleName) {
     EXPECT_EQ(engine.classify("Zzz", "", "", "", ""), kFallback);
     EXPECT_EQ(engine.classify("Zzz", "", "", "", "youtube.com"), (ClassificationResult{16, 0.55}));
     EXPECT_EQ(engine.classify("", nullopt, nullopt, nullopt, nullopt), learned(7));
-
-    // Address and title rules do nothing on plain pages.
-    engine.learnedRules = {{"url", "https://example.org/", 4}, {"title", "Example", 4}};
-    EXPECT_EQ(engine.classify("Safari", nullopt, "Example", "https://example.org/", "example.org"),
-              (ClassificationResult{21, 0.40}));
 }
 
 TEST(CategoryEngine, MixedPagesUseOnlyUrlAndTitleRules) {

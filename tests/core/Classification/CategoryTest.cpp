@@ -9,41 +9,19 @@
 namespace larkspan {
 namespace {
 
-// The catalogue's shape, and the entries whose change a user would see in every figure.
-TEST(Category, SeededCatalogueIsTheTwentyOneCategoriesInOrder) {
-    using P = Productivity;
+// Ids index the catalogue: seeded()[id - 1] is the category with that id.
+TEST(Category, SeededCatalogueIsInIdOrder) {
     const auto& seeded = Category::seeded();
-    ASSERT_EQ(seeded.size(), 21u);
     std::set<std::string> names;
-    int productive = 0, unproductive = 0;
     for (std::size_t i = 0; i < seeded.size(); ++i) {
         const Category& c = seeded[i];
         SCOPED_TRACE(c.name);
         EXPECT_EQ(c.id, static_cast<std::int64_t>(i + 1));
         EXPECT_EQ(c.sortOrder, c.id);
         EXPECT_TRUE(c.isSystem);
-        EXPECT_EQ(c.parentID, std::nullopt);
-        productive += c.productivity == P::productive;
-        unproductive += c.productivity == P::unproductive;
         names.insert(c.name);
     }
     EXPECT_EQ(names.size(), seeded.size());
-    EXPECT_EQ(productive, 11);
-    EXPECT_EQ(unproductive, 5);
-    struct Row {
-        std::int64_t id;
-        const char *name, *colorHex, *icon;
-        P productivity;
-    };
-    for (const Row& row : {Row{2, "Terminal", "#30B0C7", "\xE2\x8C\xA8\xEF\xB8\x8F", P::productive},
-                           Row{category_id::awayBreak, "Away / Break", "#8E8E93", "\xE2\x98\x95", P::neutral},
-                           Row{category_id::other, "Other", "#AEAEB2", "\xE2\x9D\x93", P::neutral}}) {
-        const Category& c = seeded[static_cast<std::size_t>(row.id - 1)];
-        EXPECT_EQ(c.name, row.name);
-        EXPECT_EQ(c.colorHex, row.colorHex);
-        EXPECT_EQ(c.icon, row.icon);  // byte for byte, variation selector included
-        EXPECT_EQ(c.productivity, row.productivity) << row.name;
-    }
 }
 
 TEST(Productivity, RawValuesAndLabels) {
@@ -68,12 +46,8 @@ TEST(Color, ParsesHexLeniently) {
         {"\u00A0#34C759\u3000", green},  // Unicode blanks are trimmed too
         {"#34C759zz", green},            // reading stops at the first non-hex character
         {std::string("#34C759\0FF", 10), green},
-        {"#FF", rgb(0, 0, 0xFF)},                        // two digits: only blue
-        {"#12345678", rgb(0x34, 0x56, 0x78)},            // bits above the low 24 are dropped
         {"#FFFFFFFFFFFFFFFFFF", rgb(0xFF, 0xFF, 0xFF)},  // past 64 bits the scan saturates
         {"", rgb(0, 0, 0)},
-        {"##34C759", rgb(0, 0, 0)},  // only one "#" is dropped
-        {"# 34C759", rgb(0, 0, 0)},  // a blank after the "#" is not a digit
         {"\xFF\xFE", rgb(0, 0, 0)},
         {std::string(100000, 'F'), rgb(0xFF, 0xFF, 0xFF)},
     };

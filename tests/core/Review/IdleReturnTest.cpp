@@ -25,12 +25,8 @@ TEST(IdleReturn, FormatsWholeMinutesThenHoursAndMinutes) {
     EXPECT_FALSE(IdleReturn::formatDuration(std::numeric_limits<double>::infinity()).empty());
 }
 
-TEST(IdleReturn, EachOptionAnswersItsCategoryOnceAndDismissIsBreak) {
+TEST(IdleReturn, TheCardAnswersOnceAndDismissIsBreak) {
     std::vector<std::int64_t> given;
-    for (std::size_t i = 0; i < IdleReturn::options.size(); ++i)
-        IdleReturn(400, [&](std::int64_t id) { given.push_back(id); }).choose(i);
-    EXPECT_EQ(given, (std::vector<std::int64_t>{15, 15, 6, 15, 6}));
-    given.clear();
     IdleReturn card(400, [&](std::int64_t id) { given.push_back(id); });
     card.choose(5);  // unknown options are ignored
     card.choose(static_cast<std::size_t>(-1));

@@ -124,12 +124,7 @@ TEST(CanvasLayout, DayWithAClockChangeIsCutAfter86400ElapsedSeconds) {
     expectFrames(positioned, {{8, 2350, 290, 50}});
 }
 
-TEST(CanvasLayout, HourLabelsAnchorsAndTheNowLine) {
-    const std::pair<int, const char*> labels[] = {
-        {0, "12a"}, {11, "11a"}, {12, "12p"}, {24, "12a"}, {-1, "11p"}};
-    for (const auto& [hour, text] : labels)
-        EXPECT_EQ(hourLabel(hour), text) << hour;
-
+TEST(CanvasLayout, AnchorsAndTheNowLine) {
     EXPECT_DOUBLE_EQ(nowLineY(kDayStart, at(9, 30)), 950);
     EXPECT_NEAR(nowLineY(kDayStart, at(0, 20)), 33.33, 0.005);
 

@@ -99,20 +99,6 @@ TEST(TimelineResources, KeysFollowSiteEditorAndTitleRules) {
               "org.gimp.GIMP|Gimp");
 }
 
-TEST(TimelineResources, GroupedByAppIsACaseSensitivePrefixTest) {
-    // Entries of the table, and near misses.
-    const std::pair<std::optional<std::string>, bool> cases[] = {
-        {std::nullopt, false},
-        {"com.cursor.app", true},
-        {"com.cursor", false},  // the prefix includes the dot
-        {"com.microsoft.vscode", false},
-        {"org.larkspan.role.terminal", true},
-        {"org.larkspan.role.files", false},
-    };
-    for (const auto& [bundle, grouped] : cases)
-        EXPECT_EQ(isGroupedByApp(bundle), grouped) << bundle.value_or("(none)");
-}
-
 TEST(TimelineResources, TitlesAreComparedByTheirFirstSixtyUserPerceivedCharacters) {
     // 59 characters of two code points each: counting bytes or code points would cut far too early.
     std::string upTo59;
@@ -197,14 +183,6 @@ TEST(TimelineChapters, DerivedValuesAndTheTieRule) {
     EXPECT_EQ(makeChapter(tie).categoryBreakdown(), (std::vector<CategoryShare>{{7, 60}, {3, 60}}));
     const std::vector<ActivityRecord> reversed = {tie[1], tie[0], tie[2]};
     EXPECT_EQ(makeChapter(reversed).dominantCategoryID(), 3);
-}
-
-TEST(TimelineLabels, FormatDurationAtEachBoundary) {
-    const std::pair<std::int64_t, const char*> cases[] = {
-        {59, "59s"}, {60, "1m 0s"}, {3599, "59m 59s"}, {3600, "1h 0m"}, {90061, "25h 1m"},
-    };
-    for (const auto& [seconds, text] : cases)
-        EXPECT_EQ(formatDuration(seconds), text) << seconds;
 }
 
 TEST(TimelineLabels, ChapterLinesNameVisitsAndTheDominantCategory) {
