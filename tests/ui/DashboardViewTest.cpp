@@ -75,7 +75,6 @@ private slots:
         tracker.addPending(3);
         QCOMPARE(screen.text("liveStatus"), controller.liveCard().status);
         QCOMPARE(screen.text("liveTitle"), QStringLiteral("DashboardController.cpp \u2014 larkspan"));
-        QCOMPARE(screen.find("liveDot")->property("color").value<QColor>(), controller.liveCard().color);
         QVERIFY(screen.visible("reviewButton"));
         QVERIFY(screen.saveScreenshots("dashboard", "session-and-pending"));
 
@@ -83,7 +82,6 @@ private slots:
         QVERIFY(screen.press("reviewButton"));
         QCOMPARE(controller.selectedTab(), QStringLiteral("Review"));
         QVERIFY(screen.visible("reviewHeading"));
-        QVERIFY(screen.find("reviewButton")->property("selected").toBool());
         QVERIFY(screen.saveScreenshots("dashboard", "review-selected"));
         // At 0 the button goes, and the review screen stays until another tab is chosen.
         tracker.manager->pendingApprovalCount.set(0);

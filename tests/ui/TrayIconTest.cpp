@@ -86,9 +86,6 @@ private slots:
                 QVERIFY(image.save(QStringLiteral("%1/tray-%2-%3.png").arg(dir, name).arg(size)));
             }
         }
-        // The badge caps at 99.
-        QCOMPARE(TrayIconPainter::badgeText(99), QStringLiteral("99"));
-        QCOMPARE(TrayIconPainter::badgeText(100), QStringLiteral("99+"));
     }
 
     void menuReachesItsSignalsAndBothShowTheEntrysPresence() {
