@@ -99,7 +99,7 @@ private slots:
         QVERIFY(screen.saveScreenshots("timeline", "chapter-panel"));
 
         // Each mode keeps its own selection; the canvas scrolls to the present hour again when it
-        // comes back into view.
+        // comes back into view...
         screen.find("canvas")->setProperty("contentY", 0.0);
         QVERIFY(screen.press("listMode"));
         QVERIFY(!day.timeline.panel().shown);
@@ -114,6 +114,11 @@ private slots:
         QTRY_VERIFY(screen.find("detailPanel")->width() > 289);
         QVERIFY(screen.saveScreenshots("timeline", "block-panel"));
         QVERIFY(screen.press("timelineMode"));
+        QTRY_COMPARE(screen.find("canvas")->property("contentY").toDouble(), 700.0);
+        // ...and when its window is shown again.
+        screen.find("canvas")->setProperty("contentY", 0.0);
+        screen.window()->hide();
+        screen.window()->show();
         QTRY_COMPARE(screen.find("canvas")->property("contentY").toDouble(), 700.0);
         QVERIFY(day.timeline.panel().isChapter);
         QVERIFY(screen.press("listMode"));
@@ -179,6 +184,8 @@ private slots:
         TimelineController& timeline = day.timeline;
         QuickScreen& screen = day.screen;
         QVERIFY(screen.find("nowLine")->isVisible());
+        // Photographed once it has scrolled to the present hour.
+        QTRY_COMPARE(screen.find("canvas")->property("contentY").toDouble(), 700.0);
         QVERIFY(screen.saveScreenshots("timeline", "today-canvas"));
         timeline.setListMode(true);
         QVERIFY(screen.press("filter->5m"));
