@@ -34,7 +34,6 @@ SERVER
 
 serve_plain_pages() {
     background python3 -u -m http.server --bind 127.0.0.1 --directory "$e2e_root/site" 0
-    serving() { grep -q 'port [0-9]*' "$e2e_root/desktop.log"; }
-    wait_until 10 serving || fail "the plain page server did not start"
+    wait_until 10 grep -q 'port [0-9]*' "$e2e_root/desktop.log" || fail "the plain page server did not start"
     plain_port=$(grep -o 'port [0-9]*' "$e2e_root/desktop.log" | head -n 1 | cut -d' ' -f2)
 }

@@ -43,11 +43,6 @@ wait_until() {
     done
 }
 
-# xprop succeeds also when the property is missing; a window manager names its check window.
-wm_running() {
-    xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
-}
-
 # The user's folders, all in the temporary directory.
 session_folders() {
     export HOME="$e2e_root/home" XDG_DATA_HOME="$e2e_root/data" XDG_CONFIG_HOME="$e2e_root/config"
@@ -72,7 +67,8 @@ start_desktop() {
 
     unset DBUS_SESSION_BUS_ADDRESS
     background openbox --sm-disable
-    wait_until 10 wm_running || fail "openbox did not start"
+    # xprop succeeds also when the property is missing; a window manager names its check window.
+    wait_until 10 sh -c "xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'" || fail "openbox did not start"
     [ "${1:-}" != bare ] || return 0
 
     DBUS_SESSION_BUS_ADDRESS="unix:path=$XDG_RUNTIME_DIR/bus"
@@ -113,10 +109,8 @@ tray_icon_window() {
 # open_window CLASS TITLE: an xterm that keeps its title, printed as a window id once mapped.
 open_window() {
     background xterm -name "$1" -class "$1" -T "$2" -xrm 'XTerm*allowTitleOps: false' -e sleep 3600
-    local id=""
     wait_until 10 xdotool search --onlyvisible --class "$1" || fail "window $1 did not map"
-    id=$(xdotool search --onlyvisible --class "$1" | head -n 1)
-    echo "$id"
+    xdotool search --onlyvisible --class "$1" | head -n 1
 }
 
 db() {

@@ -46,13 +46,10 @@ TEST(BridgeProtocol, OnlyWellFormedTabsPass) {
          TabMessage{false, "https://github.com/", "Hi \"you\" 🚀"}},
         {R"({"private":true,"url":"https://secret.example/","title":"Secret"})", TabMessage{true, "", ""}},
         {R"({"private":false,"url":"a","title":")" + longTitle + "\"}", TabMessage{false, "a", longTitle}},
-        {R"({"private":false,"url":"https://github.com/"})", std::nullopt},
         {R"({"url":"a","title":"b"})", std::nullopt},
         {R"({"private":"no","url":"a","title":"b"})", std::nullopt},
-        {R"({"private":false,"url":7,"title":"b"})", std::nullopt},
         {"{\"private\":false,\"url\":\"a\",\"title\":\"\xC3\x28\"}", std::nullopt},
         {R"({"private":false,"url":"a","title":"\ud800"})", std::nullopt},
-        {R"(["private",false])", std::nullopt},
         {R"({"private":false,"url":"a","title":"b"} trailing)", std::nullopt},
         {"", std::nullopt},
     };
@@ -63,8 +60,6 @@ TEST(BridgeProtocol, OnlyWellFormedTabsPass) {
 TEST(BridgeProtocol, ForwardedReportsCarryAPositivePid) {
     const ForwardedReport report{4242, {false, "https://x.org/", "X"}};
     EXPECT_EQ(parseForwardedMessage(forwardedMessage(report)), report);
-    const ForwardedReport hidden{4242, {true, "", ""}};
-    EXPECT_EQ(parseForwardedMessage(forwardedMessage(hidden)), hidden);
     for (const char* body : {R"({"private":true})", R"({"pid":0,"private":true})",
                              R"({"pid":-3,"private":true})", R"({"pid":"12","private":true})",
                              R"({"pid":18446744073709551615,"private":true})", R"({"pid":12})"}) {

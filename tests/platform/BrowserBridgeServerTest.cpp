@@ -57,7 +57,6 @@ TEST(BrowserBridgeServer, KeepsEachBrowsersLatestGoodReportWhileItsHostIsConnect
         const auto latest = s.server.latestReport(self);
         EXPECT_EQ(latest->program, std::filesystem::read_symlink("/proc/self/exe").filename());
         EXPECT_EQ(latest->received, 1000);
-        EXPECT_EQ(s.server.latestReports().size(), 1u);
     }
     EXPECT_TRUE(test::waitUntil([&] { return s.server.latestReports().empty(); }))
         << "a host that is gone takes its report with it";

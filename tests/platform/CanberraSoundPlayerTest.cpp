@@ -29,13 +29,6 @@ TEST(CanberraSoundPlayer, WithoutASoundServerNothingPlaysAndOneLineSaysSo) {
     const auto text = diagnostics.str();
     EXPECT_NE(text.find("no sound server"), std::string::npos) << text;
     EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 1) << text;
-
-    // An unknown name does not even try.
-    std::ostringstream quiet;
-    CanberraSoundPlayer other("larkspan-no-such-driver", quiet);
-    other.play("Basso");
-    other.play(std::string(100000, 'x'));
-    EXPECT_EQ(quiet.str(), "");
 }
 
 }  // namespace

@@ -29,8 +29,6 @@ TEST(CanonicalIdentifiers, ShipsOfOneProductMeetAtOneIdentifier) {
     // Distribution package, Flatpak id and window class of a product meet; compared ignoring case.
     for (const auto& [key, identifier] : std::vector<std::pair<const char*, const char*>>{
              {"firefox", "org.mozilla.firefox"},
-             {"org.mozilla.firefox", "org.mozilla.firefox"},
-             {"Code", "com.microsoft.VSCode"},
              {"XTerm", "org.larkspan.role.terminal"},
              {"com.spotify.Client", "com.spotify.client"},
          }) {

@@ -39,12 +39,10 @@ TEST_F(ReportedWorkspaceTest, AnnouncesEachApplicationChangeAndIdentifiesLikeX11
     const auto front = workspace.frontmostApplication();
     ASSERT_TRUE(front);
     EXPECT_EQ(front->bundleID, "com.microsoft.VSCode");
-    EXPECT_EQ(workspace.focusedWindowTitle(0), "main.cpp");
     // A new title or a second window of the same application is no switch.
     EXPECT_EQ(activationsAfter({.id = 1, .appID = "code", .title = "util.cpp"}, true), 0);
     EXPECT_EQ(activationsAfter({.id = 2, .appID = "code", .title = "Settings"}, true), 0);
     EXPECT_EQ(activationsAfter({.id = 3, .appID = "unknown.App", .title = "x"}, true), 1);
-    EXPECT_EQ(workspace.frontmostApplication()->bundleID, "unknown.App");
     // Focus on nothing: no application in front, and coming back to the same one is no switch.
     EXPECT_EQ(activationsAfter({.id = 3, .appID = "unknown.App", .title = "x"}, false), 0);
     EXPECT_FALSE(workspace.frontmostApplication());
