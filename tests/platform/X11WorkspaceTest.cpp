@@ -24,10 +24,8 @@ const std::filesystem::path kData = LARKSPAN_PLATFORM_TEST_DATA;
 
 class X11WorkspaceTest : public ::testing::Test {
 protected:
-    void SetUp() override { startDisplay({}); }
-
-    void startDisplay(test::XvfbDisplay::Options options) {
-        display = std::make_unique<test::XvfbDisplay>(options);
+    void SetUp() override {
+        display = std::make_unique<test::XvfbDisplay>();
         ASSERT_TRUE(display->ready()) << display->error();
     }
 
@@ -162,6 +160,7 @@ TEST_F(X11WorkspaceTest, ActivationFiresOncePerApplicationAndNotForOurOwnUtility
     const auto dialog = show(windows, {"dialog", "LarkspanDialog", "Save changes?", "",
                                        static_cast<std::uint32_t>(std::stoul(first))});
     const auto popover = show(windows, {"larkspan", "Larkspan", "Today", "", 0, true});
+    const auto dashboard = show(windows, {"larkspan", "Larkspan", "Larkspan"});
     const auto gtk = show(windows, {"whatever", "Whatever", "GTK window", "larkspan-beta"});
     auto workspace = makeWorkspace();
 
@@ -185,10 +184,13 @@ TEST_F(X11WorkspaceTest, ActivationFiresOncePerApplicationAndNotForOurOwnUtility
     EXPECT_EQ(frontmostID(*workspace), "LarkspanOther");
     EXPECT_EQ(workspace->frontWindowTitle("LarkspanOther"), "Other");
     EXPECT_EQ(settledActivations(), afterFirst + 1);
+    // Larkspan's own ordinary window is Larkspan in front, like any other application.
+    bringToFront(*workspace, dashboard, "Larkspan");
+    EXPECT_EQ(workspace->focusedWindowTitle(getpid()), "Larkspan");
     bringToFront(*workspace, gtk, "larkspan-beta");
 
     // A removed handler is not called; the workspace going away drops what is still queued.
-    ASSERT_TRUE(activationsReach(afterFirst + 2));
+    ASSERT_TRUE(activationsReach(afterFirst + 3));
     const int before = settledActivations();
     workspace->setApplicationActivatedHandler({});
     bringToFront(*workspace, first, "LarkspanSame");

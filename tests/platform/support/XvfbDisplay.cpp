@@ -91,8 +91,6 @@ bool XvfbDisplay::start(const std::string& display) {
     std::vector<std::string> argv = {"Xvfb",     "-displayfd", "1", "-nolisten",  "tcp",
                                      "-noreset", "-screen",    "0", "1280x800x24"};
     argv.insert(argv.begin() + 1, display);
-    if (!options_.screenSaverExtension)
-        argv.insert(argv.end(), {"-extension", "MIT-SCREEN-SAVER"});
     int fds[2];
     if (pipe2(fds, O_CLOEXEC) != 0)
         return false;

@@ -18,8 +18,7 @@ bool waitUntil(const std::function<bool()>& condition,
 class XvfbDisplay {
 public:
     struct Options {
-        bool screenSaverExtension = true;  // false starts Xvfb without MIT-SCREEN-SAVER
-        bool windowManager = true;         // openbox
+        bool windowManager = true;  // openbox
     };
 
     explicit XvfbDisplay(Options options);
