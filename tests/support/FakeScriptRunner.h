@@ -1,5 +1,6 @@
-// A script runner whose answer the test chooses. It counts runs and can hold every run until the test
-// releases it, to stand in for a browser that does not answer. Thread-safe.
+// A script runner whose answer the test chooses. It counts runs, can refuse to compile,
+// and can hold every run until the test releases it, to stand in for a browser that does not answer.
+// Thread-safe.
 #pragma once
 
 #include <condition_variable>
@@ -12,7 +13,7 @@ namespace larkspan::test {
 class FakeScriptRunner final : public ScriptRunner, private LockedFields {
 public:
     std::shared_ptr<CompiledScript> compile(const std::string&) override {
-        return std::make_shared<CompiledScript>();
+        return get(refuseCompiles_) ? nullptr : std::make_shared<CompiledScript>();
     }
 
     std::optional<std::string> execute(const CompiledScript&) override {
@@ -29,6 +30,7 @@ public:
 
     // Answers every script with `text`; nothing makes the run fail.
     void answerAlways(std::optional<std::string> text) { put(answer_, text); }
+    void refuseCompiles(bool refuse) { put(refuseCompiles_, refuse); }
     // While held, every run blocks until release().
     void hold() { put(holding_, true); }
     void release() {
@@ -46,6 +48,7 @@ public:
 private:
     std::condition_variable changed_;
     std::optional<std::string> answer_;
+    bool refuseCompiles_ = false;
     bool holding_ = false;
     int waiting_ = 0;
     int runs_ = 0;

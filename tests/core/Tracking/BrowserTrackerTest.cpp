@@ -72,6 +72,15 @@ TEST_F(BrowserTrackerTest, AnswersAreSplitAtTheSeparatorAndTrimmed) {
     EXPECT_EQ(tabFor("about:blank|||" + odd)->title, odd);
 }
 
+// One failed compile must not leave the browser without tab data until a restart.
+TEST_F(BrowserTrackerTest, AFailedCompileIsRetried) {
+    scripts.answerAlways("about:blank|||New Tab");
+    scripts.refuseCompiles(true);
+    EXPECT_FALSE(tracker.getActiveTab("com.apple.Safari"));
+    scripts.refuseCompiles(false);
+    EXPECT_TRUE(tracker.getActiveTab("com.apple.Safari"));
+}
+
 TEST(BrowserTrackerDomain, HostWithoutLeadingWwwElseTheTextUnchanged) {
     const std::pair<std::string, std::string> cases[] = {
         {"about:blank", "about:blank"},  // no host
